@@ -1,0 +1,75 @@
+#include "flow/conf_cd.h"
+
+#include "data/banco.h"
+#include "data/estado.h"
+#include "flow/dialogos.h"
+#include "platform/base/caminhos.h"
+#include "platform/tela/laco.h"
+
+namespace verdalia {
+
+namespace {
+
+constexpr Lugar lugares[] = {
+    {"Image1", -1, 18, 20, 120, 120},           {"Label5", -1, 156, 22, 300, 30, "Informe sua unidade de CD ?"},
+    {"Combo1", -1, 156, 60, 110, 34},           {"o_que_ha", -1, 156, 98, 300, 40},
+    {"Command1", -1, 200, 152, 110, 42, "&Ok"}, {"Command2", -1, 326, 152, 110, 42, "&Sair"},
+};
+
+} // namespace
+
+void Conf_cd::Form_Load() {
+    dialogo = fechavel = true;
+    titulo = "Configuração do CD";
+    largura = 470;
+    altura = 210;
+    cor_fundo = cor_papel_claro;
+    arruma(*this, lugares);
+    Image1.figura = carrega_figura("\\recursos\\hortelao.bmp");
+    Label5.alinha = o_que_ha.alinha = Alinha::esquerda;
+    Label5.letra = {.corpo = 15};
+    o_que_ha.letra = {.familia = Familia::legenda, .corpo = 11};
+    Combo1.letra.corpo = 14;
+    Combo1.muda = [this] { Combo1_Change(); };
+    Command1.clique = [this] { Command1_Click(); };
+    Command2.clique = [this] { Command2_Click(); };
+
+    nome_banco = "\\hortas00.mdb";
+    le_cd();
+    Combo1.itens.assign(letras_de_unidade.begin(), letras_de_unidade.end());
+    Combo1.escolhido = unidade_cd;
+    foco = &Command1;
+    Combo1_Change();
+}
+
+void Conf_cd::Combo1_Change() {
+    procura_unidades();
+    const std::string nome_do_volume = nome_da_unidade(Combo1.escolhido);
+    o_que_ha.texto = Combo1.escolhido == 0    ? "As figuras e os sons que vêm com o jogo."
+                     : nome_do_volume.empty() ? "Nenhum disco com figuras nesta unidade."
+                                              : "Disco " + nome_do_volume + ".";
+}
+
+void Conf_cd::Command1_Click() {
+    procura_unidades();
+    if (!unidade_tem_figuras(Combo1.escolhido)) {
+        avisa(titulo, "A unidade " + Combo1.itens[static_cast<std::size_t>(Combo1.escolhido)] +
+                          " não tem as figuras do jogo (a pasta anima). Escolha outra unidade, ou ponha o disco e "
+                          "tente de novo.");
+        return;
+    }
+    unidade_cd = static_cast<std::int16_t>(Combo1.escolhido);
+    try {
+        grava_cd();
+    } catch (const ErroBanco& erro) {
+        avisa(titulo, std::string(erro.what()) + " A unidade vale só para esta vez.");
+    }
+    descarrega(*this);
+    mostra(TelaId::INTRONEW);
+}
+
+void Conf_cd::Command2_Click() {
+    termina();
+}
+
+} // namespace verdalia

@@ -1,0 +1,48 @@
+// Os três diálogos que levam toda mensagem do jogo. Quem chama é dono do som que vai com a mensagem.
+#pragma once
+#include "flow/telas.h"
+#include "platform/tela/botao.h"
+#include "platform/tela/figura.h"
+#include "platform/tela/matriz.h"
+#include "platform/tela/rotulo.h"
+
+#include <string>
+
+namespace verdalia {
+
+struct ok : Tela {
+    Figura Image1{*this, "Image1"};
+    Rotulo mensagem{*this, "mensagem"};
+    Botao opções{*this, "opções"};
+
+    ok();
+    void Form_Load() override;
+    void opções_Click();
+};
+
+struct form_ok_nao : Tela {
+    Figura Image1{*this, "Image1"};
+    Rotulo mensagem{*this, "mensagem"};
+    Matriz<Botao> opções{*this, "opções"};
+
+    form_ok_nao();
+    void Form_Load() override;
+    // Não se fecha sem resposta: fechar poderia perder a horta por descuido.
+    void pede_fechar() override {}
+    void opções_Click(int Index);
+};
+
+struct ok_help : Tela {
+    ok_help();
+};
+
+// Mostra `ok` com o título e a mensagem, e espera.
+void avisa(const std::string& titulo, const std::string& mensagem);
+// Mostra `form_ok_nao` e espera; a resposta fica também em `resposta_sim`.
+bool pergunta(const std::string& titulo, const std::string& mensagem);
+// Mostra `ok_help` com a figura de `dir_media`, e espera.
+void mostra_quadro(const std::string& titulo, const std::string& figura);
+// Mostra, um por um, os avisos que o banco deixou, e os esquece.
+void mostra_avisos_do_banco();
+
+} // namespace verdalia

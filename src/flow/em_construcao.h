@@ -1,0 +1,13 @@
+// O lugar das telas que ainda não existem: avisa e volta ao centro do jogo.
+#pragma once
+#include "flow/telas.h"
+
+namespace verdalia {
+
+struct em_construcao : Tela {
+    em_construcao() : Tela("em_construcao") {}
+    void Form_Load() override;
+    void Form_Activate() override;
+};
+
+} // namespace verdalia

@@ -1,0 +1,16 @@
+// O que se ouve: as falas do hortelão e os efeitos, que só tocam com "Voz do Hortelão" ligada.
+#pragma once
+#include "platform/tela/som.h"
+
+#include <string>
+
+namespace verdalia {
+
+// Toca a fala `clipe` ("\s1.wav") da pasta do sotaque escolhido. `modo`: espera_o_fim ou sem_esperar.
+void fala(const std::string& clipe, int modo);
+// Toca um som da pasta do programa, com a voz ligada ou não.
+void efeito(const std::string& clipe, int modo);
+// Corta o que estiver tocando, se a voz está ligada.
+void silencia(int modo);
+
+} // namespace verdalia

@@ -1,0 +1,43 @@
+#include "flow/fundo.h"
+
+#include "data/banco.h"
+#include "data/estado.h"
+#include "flow/dialogos.h"
+#include "platform/tela/laco.h"
+
+namespace verdalia {
+
+void fundo::Form_Load() {
+    ponteiro = ponteiro_ampulheta;
+    primeira_ativacao = true;
+    cor_fundo = cor_grama;
+    constexpr Lugar lugares[] = {
+        {"nome_do_jogo", -1, 0, 40, largura_logica, 70, "Verdalia"},
+        {"lema", -1, 0, 108, largura_logica, 30, "a horta da família, semana por semana"},
+    };
+    arruma(*this, lugares);
+    nome_do_jogo.letra = {.familia = Familia::legenda, .corpo = 40, .negrito = true, .cor = cor_tinta_clara};
+    lema.letra = {.familia = Familia::legenda, .corpo = 14, .cor = cor_tinta_clara};
+}
+
+void fundo::Form_Activate() {
+    if (!primeira_ativacao) return;
+    primeira_ativacao = false;
+    som_ligado = false;
+    musica_ligada = false;
+    primeira_carga = true;
+    try {
+        prepara_banco();
+        mostra_avisos_do_banco();
+        mostra_modal(TelaId::Conf_cd);
+    } catch (const ErroBanco& erro) {
+        avisa("Atenção ...", std::string(erro.what()) + " O jogo não pode começar sem esse arquivo.");
+        termina();
+    }
+}
+
+void fundo::pede_fechar() {
+    termina();
+}
+
+} // namespace verdalia

@@ -1,0 +1,50 @@
+#include "flow/saida.h"
+
+#include "data/banco.h"
+#include "data/estado.h"
+#include "data/plano.h"
+#include "flow/dialogos.h"
+#include "flow/falas.h"
+#include "platform/tela/laco.h"
+
+namespace verdalia {
+
+namespace {
+
+bool ha_pendencias() {
+    return falta_plantar() || pend_canteiro() == 1 || pend_leira() == 1 || falta_semear();
+}
+
+// false quando não se pôde gravar: o jogo então fica aberto, com tudo na memória.
+bool grava_se_quer() {
+    pergunta_gravar();
+    if (!resposta_sim) return true;
+    try {
+        grava_canteiros();
+        return true;
+    } catch (const ErroBanco& erro) {
+        avisa("Gravar alterações",
+              std::string(erro.what()) + " Nada se perdeu: o jogo continua aberto, e você pode tentar de novo.");
+        return false;
+    }
+}
+
+} // namespace
+
+void pergunta_gravar() {
+    pergunta("Gravar alterações", "Deseja salvar ?");
+}
+
+void sai_do_jogo() {
+    fala("\\s1.wav", sem_esperar);
+    if (!pergunta("Saindo ...", "Deseja sair")) {
+        fala("\\s3.wav", espera_o_fim);
+        return;
+    }
+    fala("\\s2.wav", sem_esperar);
+    if (!grava_se_quer()) return;
+    if (ha_pendencias()) mostra_quadro("Pendências", "\\anima\\noaca.jpg");
+    termina();
+}
+
+} // namespace verdalia

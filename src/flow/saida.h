@@ -1,0 +1,13 @@
+// A saída do jogo, a mesma da porta, da barraca e do fecho da janela.
+#pragma once
+
+namespace verdalia {
+
+// Pergunta se sai e se salva, avisa do que ficou por fazer e termina o jogo. Volta com o jogo aberto quando o
+// jogador desiste, ou quando não se pôde gravar o que ele quis salvar.
+void sai_do_jogo();
+
+// "Deseja salvar ?"; a resposta fica em `resposta_sim`.
+void pergunta_gravar();
+
+} // namespace verdalia

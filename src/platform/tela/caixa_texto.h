@@ -1,0 +1,25 @@
+// Caixa de texto de uma linha, UTF-8. `travada` mostra e não deixa escrever.
+#pragma once
+#include "platform/tela/controle.h"
+
+namespace verdalia {
+
+struct CaixaTexto : Controle {
+    using Controle::Controle;
+
+    int maximo = 0; // letras que cabem; 0 é sem limite
+    bool travada = false;
+    Alinha alinha = Alinha::esquerda;
+
+    bool interage() const override { return ativo && a_vista() && (!travada || clique); }
+    bool recebe_texto() const override { return !travada; }
+    void aperta(double x, double y) override;
+    bool teclado(const Tecla& t) override;
+    void escreve(const std::string& letras) override;
+    void pinta(Pintor& p, const Retangulo& r) override;
+
+private:
+    std::size_t cursor_ = 0; // em bytes, sempre no começo de uma letra
+};
+
+} // namespace verdalia

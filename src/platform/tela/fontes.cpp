@@ -1,0 +1,102 @@
+#include "platform/tela/fontes.h"
+
+#include "platform/base/caminhos.h"
+
+#include <cmath>
+#include <map>
+#include <stdexcept>
+
+namespace verdalia {
+
+namespace {
+
+constexpr const char* arquivos[2][2] = {
+    {"\\fontes\\LiberationSans-Regular.ttf", "\\fontes\\LiberationSans-Bold.ttf"},
+    {"\\fontes\\Andika-Regular.ttf", "\\fontes\\Andika-Bold.ttf"},
+};
+
+// As medidas se fazem neste aumento, para que não dependam do tamanho da janela.
+constexpr double aumento_da_medida = 4;
+
+std::map<int, TTF_Font*> abertas; // chave: família, negrito e pixels
+
+const char* arquivo(const Letra& letra) {
+    return arquivos[letra.familia == Familia::legenda][letra.negrito];
+}
+
+} // namespace
+
+void abre_fontes() {
+    if (TTF_WasInit() == 0 && TTF_Init() != 0)
+        throw std::runtime_error(std::string("As letras não puderam ser abertas: ") + TTF_GetError());
+    for (const auto& familia : arquivos)
+        for (const char* nome : familia)
+            if (!acha(nome)) throw std::runtime_error(std::string("Falta um arquivo de letras do jogo: ") + nome);
+}
+
+void esquece_tamanhos() {
+    for (auto& [chave, aberta] : abertas) TTF_CloseFont(aberta);
+    abertas.clear();
+}
+
+void fecha_fontes() {
+    esquece_tamanhos();
+    if (TTF_WasInit() != 0) TTF_Quit();
+}
+
+TTF_Font* fonte(const Letra& letra, double escala) {
+    const int pixels = std::max(6, static_cast<int>(std::lround(letra.corpo * 4 / 3 * escala)));
+    const int chave = (pixels << 2) | (static_cast<int>(letra.familia) << 1) | static_cast<int>(letra.negrito);
+    auto [lugar, nova] = abertas.try_emplace(chave, nullptr);
+    if (nova) {
+        const auto achada = acha(arquivo(letra));
+        TTF_Font* aberta = achada ? TTF_OpenFont(achada->c_str(), pixels) : nullptr;
+        if (aberta == nullptr) {
+            abertas.erase(lugar);
+            throw std::runtime_error(std::string("O arquivo de letras não pôde ser lido: ") + arquivo(letra));
+        }
+        TTF_SetFontKerning(aberta, 0);
+        TTF_SetFontHinting(aberta, TTF_HINTING_LIGHT_SUBPIXEL);
+        lugar->second = aberta;
+    }
+    TTF_SetFontStyle(lugar->second, letra.sublinhado ? TTF_STYLE_UNDERLINE : TTF_STYLE_NORMAL);
+    return lugar->second;
+}
+
+double largura_texto(std::string_view texto, const Letra& letra) {
+    int largura = 0;
+    TTF_SizeUTF8(fonte(letra, aumento_da_medida), std::string(texto).c_str(), &largura, nullptr);
+    return largura / aumento_da_medida;
+}
+
+double altura_linha(const Letra& letra) {
+    return TTF_FontLineSkip(fonte(letra, aumento_da_medida)) / aumento_da_medida;
+}
+
+std::vector<std::string> quebra_linhas(std::string_view texto, const Letra& letra, double largura) {
+    std::vector<std::string> linhas{""};
+    std::size_t i = 0;
+    while (i < texto.size()) {
+        if (texto[i] == '\n') {
+            linhas.emplace_back();
+            ++i;
+            continue;
+        }
+        // Uma palavra leva consigo os brancos que vêm antes dela: assim os brancos dobrados se conservam.
+        std::size_t fim = texto.find_first_not_of(' ', i);
+        fim = fim == std::string_view::npos ? texto.size() : texto.find_first_of(" \n", fim);
+        if (fim == std::string_view::npos) fim = texto.size();
+        const std::string_view palavra = texto.substr(i, fim - i);
+        const std::string junta = linhas.back() + std::string(palavra);
+        if (linhas.back().empty() || largura_texto(junta, letra) <= largura) {
+            linhas.back() = junta;
+        } else {
+            const std::size_t letra_1 = palavra.find_first_not_of(' ');
+            linhas.emplace_back(letra_1 == std::string_view::npos ? "" : palavra.substr(letra_1));
+        }
+        i = fim;
+    }
+    return linhas;
+}
+
+} // namespace verdalia

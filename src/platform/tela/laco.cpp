@@ -1,0 +1,349 @@
+#include "platform/tela/laco.h"
+
+#include "platform/base/relogio.h"
+#include "platform/tela/laco_interno.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace verdalia {
+
+Hospedeiro* hospedeiro = nullptr;
+EstadoDoLaco estado_do_laco;
+
+namespace {
+
+EstadoDoLaco& e = estado_do_laco;
+
+constexpr std::int64_t demora_da_dica = 600;
+constexpr double folga_do_clique = 4; // pixels lógicos que o mouse anda antes de um aperto virar arraste
+
+void agenda_dica() {
+    if (e.dica_a_vista) e.sujo = true;
+    e.dica_a_vista = false;
+    const bool tem = e.sob != nullptr && !e.sob->dica.empty() && e.arrastado == nullptr;
+    e.hora_da_dica = tem ? relogio->milissegundos() + demora_da_dica : -1;
+}
+
+// O ponteiro do controle vale sobre o da tela.
+void acerta_ponteiro() {
+    const Tela* t = tela_ativa();
+    int numero = t != nullptr ? t->ponteiro : ponteiro_normal;
+    if (e.sob != nullptr && e.sob->ponteiro != ponteiro_normal) numero = e.sob->ponteiro;
+    hospedeiro->mostra_ponteiro(numero);
+}
+
+void acha_sob() {
+    Controle* novo = controle_em(e.x, e.y);
+    if (novo == e.sob) return;
+    e.sob = novo;
+    e.sujo = true;
+    agenda_dica();
+}
+
+bool longe_do_aperto() {
+    return std::hypot(e.x - e.apertou_x, e.y - e.apertou_y) > folga_do_clique;
+}
+
+void trata_move() {
+    if (e.arrastado != nullptr) {
+        move_arraste();
+    } else if (e.apertado != nullptr && e.apertado->arrasta && e.botao == 1 && longe_do_aperto()) {
+        // O arraste parte de onde o botão foi apertado: quem fala ao ser pego é o próprio controle.
+        const double x = e.x, y = e.y;
+        e.x = e.apertou_x;
+        e.y = e.apertou_y;
+        comeca_arraste(e.apertado, false);
+        e.x = x;
+        e.y = y;
+        move_arraste();
+    } else if (e.apertado != nullptr && e.botao == 1) {
+        e.apertado->move(e.x - e.apertado->dona.origem_x(), e.y - e.apertado->dona.origem_y());
+    }
+    acha_sob();
+}
+
+void trata_aperto(int botao) {
+    Tela* t = tela_ativa();
+    if (t == nullptr || e.arrastado != nullptr) return;
+    e.sujo = true;
+    e.foco_visivel = false;
+    acha_sob();
+    e.hora_da_dica = -1;
+    e.dica_a_vista = false;
+    e.botao = botao;
+    e.apertou_x = e.x;
+    e.apertou_y = e.y;
+    if (e.sob != nullptr && !e.sob->ativo) return;
+    e.apertado = e.sob;
+    poe_foco(e.sob != nullptr && e.sob->interage() ? e.sob : nullptr);
+    if (e.apertado != nullptr && botao == 1) e.apertado->aperta(e.x - t->origem_x(), e.y - t->origem_y());
+}
+
+void trata_soltura(int botao) {
+    if (e.arrastado != nullptr && !e.pelo_teclado) {
+        larga_arraste();
+        return;
+    }
+    Tela* t = tela_ativa();
+    if (t == nullptr || botao != e.botao) return;
+    Controle* c = e.apertado;
+    e.botao = 0;
+    e.apertado = nullptr;
+    e.sujo = true;
+    if (c != nullptr) {
+        const Retangulo r = c->lugar();
+        const Mouse mouse{botao, e.x - t->origem_x() - r.x, e.y - t->origem_y() - r.y};
+        if (c->botao) c->botao(mouse);
+        // O evento pode ter tirado o controle da tela: só se clica no que continua debaixo do mouse.
+        if (botao == 1 && controle_em(e.x, e.y) == c && c->ativo) c->aciona();
+    } else if (t->dialogo && t->fechavel && t->caixa_de_fechar().contem(e.x, e.y)) {
+        t->pede_fechar();
+    } else if (controle_em(e.x, e.y) == nullptr && botao == 1) {
+        t->Form_Click();
+    }
+}
+
+void trata(const Evento& ev) {
+    if (ev.tipo == Evento::move || ev.tipo == Evento::aperta || ev.tipo == Evento::solta) {
+        const Pintor p(hospedeiro->superficie());
+        e.x = p.logico_x(ev.x);
+        e.y = p.logico_y(ev.y);
+    }
+    Tela* t = tela_ativa();
+    switch (ev.tipo) {
+    case Evento::move:
+        trata_move();
+        break;
+    case Evento::aperta:
+        trata_aperto(ev.botao);
+        break;
+    case Evento::solta:
+        trata_soltura(ev.botao);
+        break;
+    case Evento::roda:
+        if (e.sob != nullptr && e.sob->ativo) e.sob->roda(ev.botao);
+        e.sujo = true;
+        break;
+    case Evento::tecla:
+        trata_tecla(ev.tecla_apertada);
+        break;
+    case Evento::texto:
+        if (t != nullptr && t->foco != nullptr && t->foco->ativo) t->foco->escreve(ev.escrito);
+        e.sujo = true;
+        break;
+    case Evento::janela:
+        e.sujo = true;
+        break;
+    case Evento::fecha:
+        if (t != nullptr) t->pede_fechar();
+        break;
+    }
+}
+
+// Os temporizadores que andam: os da tela inteira de cima e os dos diálogos sobre ela.
+std::vector<Temporizador*> vivos() {
+    std::vector<Temporizador*> lista;
+    const int base = base_da_pilha();
+    for (std::size_t i = base < 0 ? 0 : static_cast<std::size_t>(base); i < e.pilha.size(); ++i)
+        if (e.pilha[i].a_vista)
+            for (Temporizador* t : e.pilha[i].tela->temporizadores) lista.push_back(t);
+    return lista;
+}
+
+// Dispara o temporizador mais atrasado, se há algum vencido.
+bool dispara_um() {
+    const std::int64_t agora = relogio->milissegundos();
+    Temporizador* vencido = nullptr;
+    for (Temporizador* t : vivos()) {
+        if (t->intervalo != t->intervalo_visto) {
+            t->intervalo_visto = t->intervalo;
+            t->proximo = agora + t->intervalo;
+        }
+        if (t->intervalo > 0 && !t->disparando && t->proximo <= agora && (!vencido || t->proximo < vencido->proximo))
+            vencido = t;
+    }
+    if (vencido == nullptr) return false;
+    // Quem perdeu a hora por mais de um intervalo não a recupera em rajada.
+    vencido->proximo = std::max(vencido->proximo + vencido->intervalo, agora + 1);
+    vencido->disparando = true;
+    if (vencido->dispara) vencido->dispara();
+    vencido->disparando = false;
+    e.sujo = true;
+    return true;
+}
+
+std::int64_t ate_o_proximo() {
+    const std::int64_t agora = relogio->milissegundos();
+    std::int64_t falta = -1;
+    const auto conta = [&falta, agora](std::int64_t hora) {
+        const std::int64_t ms = std::max<std::int64_t>(0, hora - agora);
+        if (falta < 0 || ms < falta) falta = ms;
+    };
+    for (const Temporizador* t : vivos())
+        if (t->intervalo > 0 && !t->disparando)
+            conta(t->intervalo == t->intervalo_visto ? t->proximo : agora + t->intervalo);
+    if (e.hora_da_dica >= 0) conta(e.hora_da_dica);
+    return falta;
+}
+
+void mostra_dica_na_hora() {
+    if (e.hora_da_dica < 0 || relogio->milissegundos() < e.hora_da_dica) return;
+    e.hora_da_dica = -1;
+    e.dica_a_vista = true;
+    e.sujo = true;
+}
+
+// O que saiu de cena só se destrói quando nenhum evento o pode estar usando.
+void esvazia_descartados() {
+    if (e.nivel > 1) return;
+    e.telas_descartadas.clear();
+    for (Carregada& c : e.pilha) c.tela->descartados.clear();
+}
+
+bool chegou(Evento& ev) {
+    if (e.adiados.empty()) return hospedeiro->proximo(ev);
+    ev = e.adiados.front();
+    e.adiados.pop_front();
+    return true;
+}
+
+void gira(const std::function<bool()>& continua) {
+    ++e.nivel;
+    while (!e.fim && continua()) {
+        Evento ev;
+        bool fez = false;
+        if (chegou(ev)) {
+            trata(ev);
+            fez = true;
+        } else if (dispara_um()) {
+            fez = true;
+        }
+        esvazia_descartados();
+        if (fez) {
+            acha_sob();
+            continue;
+        }
+        mostra_dica_na_hora();
+        acerta_ponteiro();
+        if (e.sujo) {
+            pinta_tudo();
+            continue;
+        }
+        if (!hospedeiro->espera(ate_o_proximo())) e.fim = true;
+    }
+    --e.nivel;
+}
+
+void pinta_dica(Pintor& p) {
+    const Controle* c = e.foco_visivel && tela_ativa() != nullptr ? tela_ativa()->foco : e.sob;
+    if (!e.dica_a_vista || c == nullptr || c->dica.empty()) return;
+    const Letra letra{.familia = Familia::legenda, .corpo = 10};
+    const auto linhas = quebra_linhas(c->dica, letra, 260);
+    double largura = 0;
+    for (const std::string& linha : linhas) largura = std::max(largura, largura_texto(linha, letra));
+    Retangulo r{e.x + 12, e.y + 20, largura + 14, altura_linha(letra) * static_cast<double>(linhas.size()) + 6};
+    if (e.foco_visivel) {
+        const Retangulo lugar = c->lugar();
+        r.x = lugar.x + c->dona.origem_x();
+        r.y = lugar.y + c->dona.origem_y() + lugar.altura + 4;
+    }
+    r.x = std::clamp(r.x, 4.0, std::max(4.0, largura_logica - r.largura - 4));
+    if (r.y + r.altura > altura_logica - 4) r.y -= r.altura + 28;
+    p.moldura(r, 5, 1, cor_madeira_escura, cor_papel_claro);
+    p.texto_em(c->dica, {r.x + 7, r.y + 3, r.largura - 13, r.altura - 6}, letra, Alinha::esquerda);
+}
+
+} // namespace
+
+void pinta_tudo() {
+    e.sujo = false;
+    Pintor p(hospedeiro->superficie());
+    p.pinta_folgas();
+    const int base = base_da_pilha();
+    for (std::size_t i = base < 0 ? 0 : static_cast<std::size_t>(base); i < e.pilha.size(); ++i)
+        if (e.pilha[i].a_vista) e.pilha[i].tela->pinta(p);
+    if (Tela* t = tela_ativa(); t != nullptr && t->foco != nullptr) t->foco->pinta_por_cima(p);
+    pinta_foco(p);
+    pinta_arraste(p);
+    pinta_dica(p);
+    hospedeiro->apresenta();
+}
+
+int base_da_pilha() {
+    for (int i = static_cast<int>(e.pilha.size()) - 1; i >= 0; --i)
+        if (e.pilha[static_cast<std::size_t>(i)].a_vista && !e.pilha[static_cast<std::size_t>(i)].tela->dialogo)
+            return i;
+    return -1;
+}
+
+Controle* controle_em(double x, double y) {
+    Tela* t = tela_ativa();
+    if (t == nullptr) return nullptr;
+    const double na_tela_x = x - t->origem_x(), na_tela_y = y - t->origem_y();
+    if (t->foco != nullptr && t->foco->aberta().contem(na_tela_x, na_tela_y)) return t->foco;
+    for (auto c = t->controles.rbegin(); c != t->controles.rend(); ++c)
+        if ((*c)->a_vista() && !(*c)->atravessa && (*c)->lugar().contem(na_tela_x, na_tela_y)) return *c;
+    return nullptr;
+}
+
+void esquece_controle(const Controle* c) {
+    if (e.arrastado == c) desiste_do_arraste();
+    for (Controle** lembrado : {&e.sob, &e.apertado, &e.alvo, &c->dona.foco})
+        if (*lembrado == c) *lembrado = nullptr;
+}
+
+void poe_foco(Controle* c) {
+    Tela* t = tela_ativa();
+    if (t == nullptr || t->foco == c) return;
+    Controle* antes = t->foco;
+    t->foco = c;
+    if (antes != nullptr) {
+        antes->fecha_aberta();
+        if (antes->perde_foco) antes->perde_foco();
+    }
+}
+
+void mostra_modal(TelaId id) {
+    mostra(id);
+    e.apertado = nullptr;
+    gira([id] {
+        return std::any_of(e.pilha.begin(), e.pilha.end(),
+                           [id](const Carregada& c) { return c.id == id && c.a_vista; });
+    });
+}
+
+void laco() {
+    gira([] { return tela_ativa() != nullptr; });
+}
+
+void termina() {
+    e.fim = true;
+}
+bool terminando() {
+    return e.fim;
+}
+
+void espera_som(int ms) {
+    const std::int64_t ate = relogio->milissegundos() + ms;
+    pinta_tudo();
+    while (!e.fim) {
+        const std::int64_t falta = ate - relogio->milissegundos();
+        if (falta <= 0) break;
+        Evento ev;
+        if (!hospedeiro->proximo(ev)) {
+            if (!hospedeiro->espera(falta)) e.fim = true;
+        } else if (ev.tipo == Evento::janela) {
+            pinta_tudo();
+        } else {
+            e.adiados.push_back(ev); // um clique dado durante o som não se perde
+        }
+    }
+}
+
+void recomeca_laco() {
+    descarrega_tudo();
+    e = EstadoDoLaco{};
+}
+
+} // namespace verdalia

@@ -1,0 +1,21 @@
+// O laço: o único lugar do programa que espera. Entrega os eventos, dispara os temporizadores entre eles, pinta
+// quando algo foi tratado e dorme até o próximo temporizador. Diálogos e sons esperados o rodam aninhado.
+#pragma once
+#include "platform/tela/hospedeiro.h"
+#include "platform/tela/tela.h"
+
+namespace verdalia {
+
+// Roda até `termina` ou até que não haja tela.
+void laco();
+// O jogo acaba: todos os laços aninhados voltam.
+void termina();
+bool terminando();
+// Roda só a janela (sem clique nem temporizador) por `ms` milissegundos: a espera de um som.
+void espera_som(int ms);
+// Pinta agora o que está à vista.
+void pinta_tudo();
+// Desfaz tudo o que o laço guarda, para um novo começo nos testes.
+void recomeca_laco();
+
+} // namespace verdalia

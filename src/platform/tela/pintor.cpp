@@ -1,0 +1,133 @@
+#include "platform/tela/pintor.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace verdalia {
+
+namespace {
+
+std::uint32_t na_cor(const SDL_Surface* s, Cor c) {
+    return SDL_MapRGB(s->format, c.r, c.g, c.b);
+}
+
+// Mistura a cor num ponto com a cobertura dada, de 0 a 1.
+void mistura(SDL_Surface* s, int x, int y, Cor c, double cobertura) {
+    const SDL_Rect& corte = s->clip_rect;
+    if (x < corte.x || y < corte.y || x >= corte.x + corte.w || y >= corte.y + corte.h) return;
+    auto* ponto = reinterpret_cast<std::uint32_t*>(static_cast<std::uint8_t*>(s->pixels) + y * s->pitch) + x;
+    Cor de;
+    SDL_GetRGB(*ponto, s->format, &de.r, &de.g, &de.b);
+    const auto entre = [cobertura](std::uint8_t a, std::uint8_t b) {
+        return static_cast<std::uint8_t>(std::lround(a + (b - a) * cobertura));
+    };
+    *ponto = na_cor(s, {entre(de.r, c.r), entre(de.g, c.g), entre(de.b, c.b)});
+}
+
+} // namespace
+
+Pintor::Pintor(SDL_Surface* superficie) : alvo(superficie) {
+    escala = std::min(alvo->w / double{largura_logica}, alvo->h / double{altura_logica});
+    const int largura = static_cast<int>(std::lround(largura_logica * escala));
+    const int altura = static_cast<int>(std::lround(altura_logica * escala));
+    folga_x = (alvo->w - largura) / 2;
+    folga_y = (alvo->h - altura) / 2;
+}
+
+void Pintor::pinta_folgas() {
+    const SDL_Rect faixas[] = {{0, 0, folga_x, alvo->h},
+                               {alvo->w - folga_x - 1, 0, folga_x + 1, alvo->h},
+                               {0, 0, alvo->w, folga_y},
+                               {0, alvo->h - folga_y - 1, alvo->w, folga_y + 1}};
+    for (const SDL_Rect& faixa : faixas) SDL_FillRect(alvo, &faixa, na_cor(alvo, {0x2b, 0x1a, 0x10}));
+}
+
+SDL_Rect Pintor::na_janela(const Retangulo& r) const {
+    // Cada borda é arredondada por si, para que vizinhos continuem encostados em qualquer escala.
+    const auto px = [this](double v) { return static_cast<int>(std::lround(v * escala)); };
+    return {folga_x + px(r.x), folga_y + px(r.y), px(r.x + r.largura) - px(r.x), px(r.y + r.altura) - px(r.y)};
+}
+
+void Pintor::retangulo(const Retangulo& r, Cor cor) {
+    if (cor.a == 0) return;
+    const SDL_Rect alvo_px = na_janela(r);
+    SDL_FillRect(alvo, &alvo_px, na_cor(alvo, cor));
+}
+
+void Pintor::redondo(const Retangulo& r, double raio, Cor cor) {
+    if (cor.a == 0) return;
+    const SDL_Rect q = na_janela(r);
+    const int raio_px = std::min({static_cast<int>(std::lround(raio * escala)), q.w / 2, q.h / 2});
+    for (int y = 0; y < q.h; ++y) {
+        const int da_borda = std::min(y, q.h - 1 - y);
+        double recuo = 0;
+        if (da_borda < raio_px) {
+            const double dy = raio_px - da_borda - 0.5;
+            recuo = raio_px - std::sqrt(static_cast<double>(raio_px) * raio_px - dy * dy);
+        }
+        const int cheio = static_cast<int>(std::ceil(recuo));
+        const SDL_Rect linha{q.x + cheio, q.y + y, q.w - 2 * cheio, 1};
+        SDL_FillRect(alvo, &linha, na_cor(alvo, cor));
+        if (cheio > 0) {
+            mistura(alvo, q.x + cheio - 1, q.y + y, cor, cheio - recuo);
+            mistura(alvo, q.x + q.w - cheio, q.y + y, cor, cheio - recuo);
+        }
+    }
+}
+
+void Pintor::moldura(const Retangulo& r, double raio, double espessura, Cor cor, Cor miolo) {
+    redondo(r, raio, cor);
+    redondo({r.x + espessura, r.y + espessura, r.largura - 2 * espessura, r.altura - 2 * espessura},
+            std::max(0.0, raio - espessura), miolo);
+}
+
+void Pintor::contorno(const Retangulo& r, double espessura, Cor cor) {
+    retangulo({r.x, r.y, r.largura, espessura}, cor);
+    retangulo({r.x, r.y + r.altura - espessura, r.largura, espessura}, cor);
+    retangulo({r.x, r.y, espessura, r.altura}, cor);
+    retangulo({r.x + r.largura - espessura, r.y, espessura, r.altura}, cor);
+}
+
+void Pintor::imagem(Imagem& figura, const Retangulo& r) {
+    SDL_Rect q = na_janela(r);
+    if (SDL_Surface* pronta = figura.no_tamanho(q.w, q.h)) {
+        SDL_BlitSurface(pronta, nullptr, alvo, &q);
+        return;
+    }
+    moldura(r, 4, 1.5, cor_madeira, cor_papel);
+    const std::size_t barra = figura.caminho.find_last_of('\\');
+    texto_em(figura.caminho.substr(barra == std::string::npos ? 0 : barra + 1), r, {.corpo = 7});
+}
+
+void Pintor::texto(std::string_view texto, double x, double y, const Letra& letra) {
+    if (texto.empty()) return;
+    const Superficie escrita(TTF_RenderUTF8_Blended(fonte(letra, escala), std::string(texto).c_str(),
+                                                    {letra.cor.r, letra.cor.g, letra.cor.b, letra.cor.a}));
+    if (!escrita) return;
+    SDL_Rect q = na_janela({x, y, 0, 0});
+    SDL_BlitSurface(escrita.get(), nullptr, alvo, &q);
+}
+
+void Pintor::texto_em(std::string_view texto_todo, const Retangulo& r, const Letra& letra, Alinha alinha) {
+    const double passo = altura_linha(letra);
+    const auto linhas = quebra_linhas(texto_todo, letra, r.largura);
+    double y = r.y + std::max(0.0, (r.altura - passo * static_cast<double>(linhas.size())) / 2);
+    recorta(r);
+    for (const std::string& linha : linhas) {
+        const double sobra = r.largura - largura_texto(linha, letra);
+        texto(linha, r.x + (alinha == Alinha::esquerda ? 0 : alinha == Alinha::centro ? sobra / 2 : sobra), y, letra);
+        y += passo;
+    }
+    recorta();
+}
+
+void Pintor::recorta(const Retangulo& r) {
+    const SDL_Rect q = na_janela(r);
+    SDL_SetClipRect(alvo, &q);
+}
+
+void Pintor::recorta() {
+    SDL_SetClipRect(alvo, nullptr);
+}
+
+} // namespace verdalia

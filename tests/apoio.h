@@ -1,0 +1,98 @@
+// O que os testes têm em comum: um relógio que se acerta à mão, uma pasta que some no fim e uma partida zerada.
+#pragma once
+
+#include "data/banco.h"
+#include "data/estado.h"
+#include "platform/base/caminhos.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <string>
+
+namespace verdalia {
+
+constexpr Dia dia(int ano, unsigned mes, unsigned dia_do_mes) {
+    return std::chrono::year{ano} / std::chrono::month{mes} / std::chrono::day{dia_do_mes};
+}
+
+// Toma o lugar do relógio do sistema enquanto existe.
+struct RelogioDeTeste : Relogio {
+    RelogioDeTeste() : anterior(relogio) { relogio = this; }
+    RelogioDeTeste(const RelogioDeTeste&) = delete;
+    RelogioDeTeste& operator=(const RelogioDeTeste&) = delete;
+    ~RelogioDeTeste() override { relogio = anterior; }
+
+    Momento agora() override { return momento; }
+    std::int64_t milissegundos() override { return ms; }
+
+    Momento momento = dia(2026, 3, 4) + std::chrono::hours{15}; // uma quarta-feira
+    std::int64_t ms = 0;
+
+private:
+    Relogio* anterior;
+};
+
+struct PastaTemporaria {
+    PastaTemporaria() {
+        std::string modelo = (std::filesystem::temp_directory_path() / "verdalia-XXXXXX").string();
+        if (mkdtemp(modelo.data()) == nullptr) throw std::runtime_error("mkdtemp");
+        raiz = modelo;
+    }
+    PastaTemporaria(const PastaTemporaria&) = delete;
+    PastaTemporaria& operator=(const PastaTemporaria&) = delete;
+    ~PastaTemporaria() {
+        std::error_code erro;
+        std::filesystem::remove_all(raiz, erro);
+    }
+
+    std::filesystem::path raiz;
+};
+
+inline std::string conteudo(const std::filesystem::path& arquivo) {
+    std::ifstream entrada(arquivo, std::ios::binary);
+    return {std::istreambuf_iterator<char>(entrada), {}};
+}
+
+inline void escreve(const std::filesystem::path& arquivo, const std::string& bytes) {
+    std::filesystem::create_directories(arquivo.parent_path());
+    std::ofstream(arquivo, std::ios::binary) << bytes;
+}
+
+// Um jogo novo, em memória, com as pastas do programa vazias e próprias do teste.
+struct Partida : testing::Test {
+    Partida() {
+        define_pastas(jogador, instalada);
+        carrega_tabelas();
+        for (auto* tabela : {&st_cod_cult, &st_last_i_cu, &st_last_last_i_cu}) tabela->fill(cult_nenhuma);
+        for (auto* tabela : {&st_idade, &st_check}) tabela->fill(0);
+        sem_cod_cult.fill(cult_nenhuma);
+        for (auto* tabela : {&sem_idade, &sem_check}) tabela->fill(0);
+        st_nome.fill("");
+        sem_nome.fill("");
+        seq_pedido.fill(0);
+        unidade_cd = 0;
+        avisos_do_banco.clear();
+    }
+
+    static void planta(int canteiro, std::int16_t cultura, std::int16_t idade) {
+        st_cod_cult[canteiro] = cultura;
+        st_nome[canteiro] = cultura > cult_vago ? nome_cult[cultura] : "";
+        st_idade[canteiro] = idade;
+    }
+
+    static void semeia(int leira, std::int16_t cultura, std::int16_t idade) {
+        sem_cod_cult[leira] = cultura;
+        sem_nome[leira] = cultura > cult_vago ? nome_cult[cultura] : "";
+        sem_idade[leira] = idade;
+    }
+
+    RelogioDeTeste relogio_de_teste;
+    PastaTemporaria pasta;
+    std::filesystem::path jogador = pasta.raiz / "jogador";
+    std::filesystem::path instalada = pasta.raiz / "instalada";
+};
+
+} // namespace verdalia

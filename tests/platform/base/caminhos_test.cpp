@@ -1,0 +1,115 @@
+#include "apoio.h"
+#include "platform/base/trava.h"
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace verdalia {
+
+namespace fs = std::filesystem;
+
+struct Caminhos : Partida {
+    Caminhos() : antes(pastas_de_montagem) { pastas_de_montagem = {media / "ana", media}; }
+    ~Caminhos() override {
+        pastas_de_montagem = antes;
+        procura_unidades();
+    }
+    std::vector<fs::path> antes;
+    fs::path media = pasta.raiz / "media";
+};
+
+TEST_F(Caminhos, JogadorPrimeiroDepoisInstalada) {
+    escreve(instalada / "audio" / "Correto" / "BLIP.wav", "i");
+    escreve(instalada / "só_instalado.txt", "i");
+    EXPECT_EQ(acha("\\audio\\correto\\blip.wav"), instalada / "audio/Correto/BLIP.wav");
+    EXPECT_EQ(acha("c:\\AUDIO\\correto\\Blip.WAV"), instalada / "audio/Correto/BLIP.wav");
+    escreve(jogador / "Audio" / "correto" / "Blip.wav", "j");
+    EXPECT_EQ(acha("\\audio\\correto\\blip.wav"), jogador / "Audio/correto/Blip.wav");
+    EXPECT_EQ(acha("\\SÓ_instalado.TXT"), instalada / "só_instalado.txt");
+    EXPECT_FALSE(acha("\\não_há.txt"));
+    EXPECT_FALSE(acha("D:\\anima\\não_há.bmp"));
+}
+
+TEST_F(Caminhos, DuasPastasQueSoDiferemEmMaiusculas) {
+    escreve(instalada / "Anima" / "um.bmp", "");
+    escreve(instalada / "anima" / "dois.bmp", "");
+    EXPECT_EQ(acha("\\anima\\um.bmp"), instalada / "Anima/um.bmp");
+    EXPECT_EQ(acha("\\ANIMA\\dois.bmp"), instalada / "anima/dois.bmp");
+}
+
+TEST_F(Caminhos, CaminhosTortosSaoRecusados) {
+    escreve(pasta.raiz / "segredo.txt", "");
+    escreve(jogador / "a" / "x.txt", "");
+    const std::string com_nulo("\\a\0b", 4);
+    for (const std::string& torto :
+         {std::string("\\..\\segredo.txt"), std::string("\\a\\..\\..\\segredo.txt"), std::string("\\../segredo.txt"),
+          std::string("\\a/x.txt"), std::string("a\\x.txt"), std::string(""), std::string("B:\\a"),
+          std::string("I:\\a"), std::string("C:a"), std::string("/etc/passwd"), com_nulo}) {
+        EXPECT_FALSE(acha(torto)) << torto;
+        EXPECT_THROW(para_gravar(torto), std::runtime_error) << torto;
+    }
+    EXPECT_EQ(acha("\\a\\\\.\\x.txt"), jogador / "a/x.txt");
+}
+
+TEST_F(Caminhos, GravaSempreNaPastaDoJogador) {
+    escreve(instalada / "gm.mdb", "i");
+    EXPECT_EQ(para_gravar("\\gm.mdb"), jogador / "gm.mdb");
+    EXPECT_TRUE(fs::is_directory(jogador));
+    EXPECT_FALSE(fs::exists(jogador / "gm.mdb"));
+    escreve(jogador / "GM.MDB", "j");
+    EXPECT_EQ(para_gravar("\\gm.mdb"), jogador / "GM.MDB");
+
+    escreve(pasta.raiz / "arquivo", "");
+    define_pastas(pasta.raiz / "arquivo" / "pasta", instalada);
+    EXPECT_THROW(para_gravar("\\gm.mdb"), std::runtime_error);
+}
+
+TEST_F(Caminhos, UnidadesPelaOrdemDosVolumes) {
+    escreve(media / "ana" / "ZEBRA" / "anima" / "z.bmp", "");
+    escreve(media / "ana" / "sem figuras" / "x.txt", "");
+    escreve(media / "cdrom" / "ANIMA" / "port00.bmp", "");
+    escreve(media / "ana" / "anima" / "nada.bmp", ""); // um volume chamado "anima" não faz de /media/ana um volume
+    procura_unidades();
+    EXPECT_EQ(nome_da_unidade(1), "ZEBRA");
+    EXPECT_EQ(nome_da_unidade(2), "cdrom");
+    for (const int vazia : {-1, 0, 3, 5, 6}) EXPECT_EQ(nome_da_unidade(vazia), "");
+    EXPECT_EQ(acha("D:\\anima\\Z.BMP"), media / "ana/ZEBRA/anima/z.bmp");
+    EXPECT_EQ(acha("E:\\anima\\port00.bmp"), media / "cdrom/ANIMA/port00.bmp");
+    EXPECT_TRUE(unidade_tem_figuras(2));
+    EXPECT_FALSE(unidade_tem_figuras(0));
+    EXPECT_FALSE(unidade_tem_figuras(3));
+    escreve(instalada / "Anima" / "x.bmp", "");
+    EXPECT_TRUE(unidade_tem_figuras(0));
+
+    fs::remove_all(media / "cdrom"); // o disco foi tirado
+    EXPECT_FALSE(unidade_tem_figuras(2));
+    EXPECT_FALSE(acha("E:\\anima\\port00.bmp"));
+    for (const char* nome : {"a", "b", "c", "d", "e", "f"}) fs::create_directories(media / nome / "anima");
+    procura_unidades();
+    EXPECT_EQ(nome_da_unidade(2), "a");
+    EXPECT_EQ(nome_da_unidade(5), "d");
+    EXPECT_EQ(nome_da_unidade(6), "");
+}
+
+TEST_F(Caminhos, SoUmaCopiaPorPasta) {
+    int aviso[2];
+    ASSERT_EQ(pipe(aviso), 0);
+    const pid_t outra = fork();
+    if (outra == 0) {
+        const char tem = trava_partida() ? 's' : 'n';
+        _exit(write(aviso[1], &tem, 1) == 1 && pause() ? 0 : 1);
+    }
+    char tem = '?';
+    ASSERT_EQ(read(aviso[0], &tem, 1), 1);
+    EXPECT_EQ(tem, 's');
+    EXPECT_FALSE(trava_partida());
+    kill(outra, SIGKILL);
+    waitpid(outra, nullptr, 0);
+    EXPECT_TRUE(trava_partida());
+    EXPECT_TRUE(trava_partida());
+    close(aviso[0]);
+    close(aviso[1]);
+}
+
+} // namespace verdalia

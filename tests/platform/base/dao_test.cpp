@@ -1,0 +1,118 @@
+#include "platform/base/dao.h"
+
+#include "apoio.h"
+
+namespace verdalia {
+
+struct Dao : Partida {
+    Workspace& area = DBEngine.Workspaces(0);
+
+    Dao() {
+        Database banco = area.CreateDatabase("\\prova.mdb");
+        banco.executa("CREATE TABLE t (n INTEGER, s TEXT)");
+    }
+    ~Dao() override { area.Close(); }
+
+    void junta(int numero) {
+        Database banco = area.OpenDatabase("\\prova.mdb");
+        Recordset t = banco.OpenRecordset("t");
+        t.AddNew();
+        t.Fields("n") = numero;
+        t.Update();
+    }
+
+    // Lido por uma conexão à parte: só o que está mesmo gravado.
+    std::string gravado() const {
+        const std::string copia = (pasta.raiz / "copia.mdb").string();
+        std::filesystem::copy_file(jogador / "prova.mdb", copia, std::filesystem::copy_options::overwrite_existing);
+        define_pastas(pasta.raiz, instalada);
+        std::string texto;
+        {
+            Database banco = DBEngine.Workspaces(0).OpenDatabase("\\copia.mdb");
+            texto = banco.texto("SELECT group_concat(n, ' ') FROM t");
+        }
+        define_pastas(jogador, instalada);
+        return texto;
+    }
+};
+
+TEST_F(Dao, RegistrosEmOrdem) {
+    Database banco = area.OpenDatabase("\\prova.mdb");
+    Recordset t = banco.OpenRecordset("t");
+    EXPECT_TRUE(t.EOF());
+    t.MoveNext();
+    EXPECT_THROW(t.Edit(), ErroBanco);
+    EXPECT_THROW(t.Delete(), ErroBanco);
+    EXPECT_THROW(t.Update(), ErroBanco);
+    for (const int n : {30, 10, 20}) {
+        t.AddNew();
+        EXPECT_TRUE(t.Fields("n").nulo());
+        t.Fields("n") = n;
+        if (n == 10) t.Fields("s") = "açafrão";
+        t.Update();
+    }
+    t.MoveFirst();
+    EXPECT_EQ(t.Fields("n").inteiro(), 30);
+    EXPECT_TRUE(t.Fields("s").nulo());
+    EXPECT_FALSE(t.Fields("s").inteiro());
+    t.Delete();
+    t.MoveNext();
+    EXPECT_EQ(t.Fields("s").texto(), "açafrão");
+    t.Edit();
+    t.Fields("s") = nullptr;
+    t.Fields("n") = -5;
+    t.Update();
+    t.MoveNext();
+    EXPECT_EQ(t.Fields("n").inteiro(), 20);
+    t.MoveNext();
+    EXPECT_TRUE(t.EOF());
+    EXPECT_THROW(t.Fields("n"), ErroBanco);
+    t.MoveFirst();
+    EXPECT_EQ(t.Fields("n").inteiro(), -5);
+    EXPECT_TRUE(t.Fields("s").nulo());
+    EXPECT_THROW(t.Fields("falta"), ErroBanco);
+    EXPECT_THROW(banco.OpenRecordset("falta"), ErroBanco);
+    t.Close();
+    EXPECT_THROW(t.MoveFirst(), ErroBanco);
+    banco.Close();
+    EXPECT_THROW(banco.OpenRecordset("t"), ErroBanco);
+    EXPECT_THROW(area.OpenDatabase("\\falta.mdb"), ErroBanco);
+    EXPECT_THROW(area.OpenDatabase("\\..\\prova.mdb"), ErroBanco);
+}
+
+TEST_F(Dao, TransacoesSeEncaixam) {
+    {
+        Passo fora(area);
+        junta(1);
+        {
+            Passo dentro(area);
+            junta(2);
+            dentro.confirma();
+        }
+        EXPECT_EQ(gravado(), "");
+        fora.confirma();
+    }
+    EXPECT_EQ(gravado(), "1 2");
+    {
+        Passo fora(area);
+        junta(3);
+    }
+    EXPECT_EQ(gravado(), "1 2");
+    {
+        Passo fora(area);
+        junta(4);
+        { Passo dentro(area); } // desfeita: condena a de fora
+        EXPECT_THROW(fora.confirma(), ErroBanco);
+    }
+    EXPECT_EQ(gravado(), "1 2");
+    EXPECT_THROW(area.CommitTrans(), ErroBanco);
+    EXPECT_THROW(area.Rollback(), ErroBanco);
+    area.BeginTrans();
+    junta(5);
+    area.Close();
+    EXPECT_EQ(gravado(), "1 2");
+    junta(6);
+    EXPECT_EQ(gravado(), "1 2 6");
+}
+
+} // namespace verdalia
