@@ -120,7 +120,7 @@ std::string cria_banco(const fs::path& arquivo) {
         passo.confirma();
     }
     // Também um diário órfão, de um banco que alguém apagou, sai do lugar: seria tomado pelo do banco novo.
-    const std::string antigo = existe_algum(arquivo) ? poe_de_lado(arquivo) : "";
+    std::string antigo = existe_algum(arquivo) ? poe_de_lado(arquivo) : "";
     muda_nome(novo, arquivo);
     for (const char* sufixo : companheiros) fs::remove(com(novo, sufixo), erro);
     return antigo;

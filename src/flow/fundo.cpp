@@ -17,6 +17,15 @@ void fundo::Form_Load() {
     };
     arruma(*this, lugares);
     nome_do_jogo.letra = {.familia = Familia::legenda, .corpo = 40, .negrito = true, .cor = cor_tinta_clara};
+    constexpr const char* verduras[] = {"cen", "alf", "tom", "bro", "bgl", "rab", "pim"};
+    for (int i = 0; i < static_cast<int>(std::size(verduras)); ++i) {
+        Figura& f = verdura.cria(i);
+        f.figura = carrega_figura(std::string("\\recursos\\feira_") + verduras[i] + ".bmp");
+        f.esquerda = 60 + 100 * i;
+        f.topo = 484;
+        f.largura = 72;
+        f.altura = 74;
+    }
     lema.letra = {.familia = Familia::legenda, .corpo = 14, .cor = cor_tinta_clara};
 }
 

@@ -24,10 +24,10 @@ constexpr Lugar lugares[] = {
     {"Label2", -1, 72, 542, 84, 26, "Opções", "Configurações de som, unidade do CD, help do software, jogo da memória"},
     {"Picture1", -1, 252, 14, 520, 500},
     {"pic_nhoca", -1, 680, 552, 60, 30},
-    {"legenda", 0, 54, 212, 140, 20, "Feira"},
-    {"legenda", 1, 54, 302, 140, 20, "Horta"},
-    {"legenda", 2, 54, 392, 140, 20, "Sementeira"},
-    {"legenda", 3, 54, 480, 140, 20, "Agenda"},
+    {"legenda", 0, 54, 211, 140, 26, "Feira"},
+    {"legenda", 1, 54, 301, 140, 26, "Horta"},
+    {"legenda", 2, 54, 391, 140, 26, "Sementeira"},
+    {"legenda", 3, 54, 479, 140, 26, "Agenda"},
 };
 
 // As palavras quentes do guia: o título do quadro e a figura que ele mostra.

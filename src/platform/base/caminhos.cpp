@@ -33,7 +33,7 @@ fs::path pasta_do_jogador() {
 fs::path pasta_instalada() {
     std::error_code erro;
     const fs::path aqui = fs::read_symlink("/proc/self/exe", erro).parent_path();
-    const fs::path ao_lado = aqui / "programa";
+    fs::path ao_lado = aqui / "programa";
     if (fs::is_directory(ao_lado, erro)) return ao_lado;
     return (aqui / ".." / "share" / "verdalia").lexically_normal();
 }

@@ -261,6 +261,7 @@ void pinta_tudo() {
     Pintor p(hospedeiro->superficie());
     p.pinta_folgas();
     const int base = base_da_pilha();
+    if (base < 0) p.retangulo({0, 0, largura_logica, altura_logica}, cor_grama);
     for (std::size_t i = base < 0 ? 0 : static_cast<std::size_t>(base); i < e.pilha.size(); ++i)
         if (e.pilha[i].a_vista) e.pilha[i].tela->pinta(p);
     if (Tela* t = tela_ativa(); t != nullptr && t->foco != nullptr) t->foco->pinta_por_cima(p);

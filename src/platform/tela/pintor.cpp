@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <unordered_map>
+#include <vector>
 
 namespace verdalia {
 
@@ -22,6 +24,38 @@ void mistura(SDL_Surface* s, int x, int y, Cor c, double cobertura) {
         return static_cast<std::uint8_t>(std::lround(a + (b - a) * cobertura));
     };
     *ponto = na_cor(s, {entre(de.r, c.r), entre(de.g, c.g), entre(de.b, c.b)});
+}
+
+// Um texto já quebrado e desenhado. Quase todos se repetem de uma pintura para a outra.
+struct Escrito {
+    struct Linha {
+        Superficie pontos; // vazia na linha em branco
+        double largura;    // em pixels lógicos
+    };
+    std::vector<Linha> linhas;
+    double passo; // de linha a linha, em pixels lógicos
+};
+
+constexpr std::size_t escritos_guardados = 256;
+
+// Largura negativa: uma linha só. Vale até a próxima chamada.
+const Escrito& escreve(std::string_view texto, const Letra& letra, double largura, double escala) {
+    static std::unordered_map<std::string, Escrito> guardados;
+    std::string chave(texto);
+    const std::uint32_t cor = letra.cor.r << 16 | letra.cor.g << 8 | letra.cor.b;
+    for (const double numero : {letra.corpo, largura, escala, double(cor),
+                                double(letra.negrito + 2 * letra.sublinhado + 4 * int(letra.familia))})
+        chave.append(reinterpret_cast<const char*>(&numero), sizeof numero);
+    if (const auto ja = guardados.find(chave); ja != guardados.end()) return ja->second;
+    if (guardados.size() >= escritos_guardados) guardados.clear();
+    Escrito novo{{}, altura_linha(letra)};
+    const auto linhas =
+        largura < 0 ? std::vector<std::string>{std::string(texto)} : quebra_linhas(texto, letra, largura);
+    for (const std::string& linha : linhas)
+        novo.linhas.push_back({Superficie(TTF_RenderUTF8_Blended(fonte(letra, escala), linha.c_str(),
+                                                                 {letra.cor.r, letra.cor.g, letra.cor.b, 255})),
+                               largura_texto(linha, letra)});
+    return guardados.emplace(std::move(chave), std::move(novo)).first->second;
 }
 
 } // namespace
@@ -100,23 +134,21 @@ void Pintor::imagem(Imagem& figura, const Retangulo& r) {
 }
 
 void Pintor::texto(std::string_view texto, double x, double y, const Letra& letra) {
-    if (texto.empty()) return;
-    const Superficie escrita(TTF_RenderUTF8_Blended(fonte(letra, escala), std::string(texto).c_str(),
-                                                    {letra.cor.r, letra.cor.g, letra.cor.b, letra.cor.a}));
-    if (!escrita) return;
+    const Escrito& escrito = escreve(texto, letra, -1, escala);
     SDL_Rect q = na_janela({x, y, 0, 0});
-    SDL_BlitSurface(escrita.get(), nullptr, alvo, &q);
+    if (escrito.linhas.front().pontos) SDL_BlitSurface(escrito.linhas.front().pontos.get(), nullptr, alvo, &q);
 }
 
-void Pintor::texto_em(std::string_view texto_todo, const Retangulo& r, const Letra& letra, Alinha alinha) {
-    const double passo = altura_linha(letra);
-    const auto linhas = quebra_linhas(texto_todo, letra, r.largura);
-    double y = r.y + std::max(0.0, (r.altura - passo * static_cast<double>(linhas.size())) / 2);
+void Pintor::texto_em(std::string_view texto, const Retangulo& r, const Letra& letra, Alinha alinha) {
+    const Escrito& escrito = escreve(texto, letra, r.largura, escala);
+    double y = r.y + std::max(0.0, (r.altura - escrito.passo * static_cast<double>(escrito.linhas.size())) / 2);
     recorta(r);
-    for (const std::string& linha : linhas) {
-        const double sobra = r.largura - largura_texto(linha, letra);
-        texto(linha, r.x + (alinha == Alinha::esquerda ? 0 : alinha == Alinha::centro ? sobra / 2 : sobra), y, letra);
-        y += passo;
+    for (const auto& linha : escrito.linhas) {
+        const double sobra = r.largura - linha.largura;
+        const double x = r.x + (alinha == Alinha::esquerda ? 0 : alinha == Alinha::centro ? sobra / 2 : sobra);
+        SDL_Rect q = na_janela({x, y, 0, 0});
+        if (linha.pontos) SDL_BlitSurface(linha.pontos.get(), nullptr, alvo, &q);
+        y += escrito.passo;
     }
     recorta();
 }

@@ -26,13 +26,13 @@ void pinta_moldura(const Tela& t, Pintor& p) {
     const Retangulo fora{x - b, y - altura_do_titulo - b, t.largura + 2 * b, t.altura + altura_do_titulo + 2 * b};
     p.redondo({fora.x + 4, fora.y + 5, fora.largura, fora.altura}, 12, {0x43, 0x27, 0x1a});
     p.moldura(fora, 12, 1.5, cor_madeira_escura, cor_madeira);
-    p.redondo({fora.x + 3, fora.y + 3, fora.largura - 6, 5}, 3, cor_madeira_clara);
+    p.redondo({fora.x + 9, fora.y + 3, fora.largura - 18, 4}, 2, cor_madeira_clara);
     const Letra letra{.familia = Familia::legenda, .corpo = 13, .negrito = true, .cor = cor_tinta_clara};
     p.texto_em(t.titulo, {x + 4, y - altura_do_titulo - 2, t.largura - 40, altura_do_titulo}, letra, Alinha::esquerda);
     if (t.fechavel) {
         const Retangulo caixa = t.caixa_de_fechar();
         p.moldura(caixa, 6, 1.5, cor_madeira_escura, cor_papel_claro);
-        p.texto_em("×", caixa, {.familia = Familia::legenda, .corpo = 15, .negrito = true});
+        p.texto_em("×", {caixa.x, caixa.y - 2, caixa.largura, caixa.altura}, {.corpo = 17, .negrito = true});
     }
 }
 
