@@ -264,16 +264,24 @@ TEST_F(Banco, ErroDoSistemaNaoMexeEmNada) {
     fs::remove(arquivo);
     prepara_banco();
 
+    const auto prepara_falha = [](const std::string& motivo) {
+        try {
+            prepara_banco();
+            ADD_FAILURE() << motivo;
+        } catch (const ErroBanco& erro) {
+            EXPECT_NE(std::string(erro.what()).find(motivo), std::string::npos) << erro.what();
+        }
+    };
     sqlite3* outro = nullptr; // outro programa está gravando
     sqlite3_open(arquivo.c_str(), &outro);
     sqlite3_exec(outro, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
-    try {
-        prepara_banco();
-        ADD_FAILURE();
-    } catch (const ErroBanco& erro) {
-        EXPECT_NE(std::string(erro.what()).find("em uso por outro programa"), std::string::npos) << erro.what();
-    }
+    prepara_falha("em uso por outro programa");
     sqlite3_close(outro);
+    {
+        DiscoDeTeste disco;
+        disco.so_leitura = true;
+        prepara_falha("só pode ser lido");
+    }
     EXPECT_EQ(na_pasta().size(), 1U);
     EXPECT_TRUE(avisos_do_banco.empty());
     prepara_banco();

@@ -20,6 +20,7 @@ struct Conexao {
     Conexao& operator=(const Conexao&) = delete;
 
     void executa(const char* sql) const;
+    void exige_transacao() const; // lança quando a transação em que devia estar já não existe
     [[noreturn]] void falha(int codigo) const;
 
     fs::path caminho;
@@ -102,7 +103,13 @@ void Conexao::falha(int codigo) const {
     throw ErroBanco(codigo & 0xFF, frase(codigo & 0xFF, sem_cota, caminho));
 }
 
+void Conexao::exige_transacao() const {
+    // Um erro grave faz o SQLite desfazer a transação por si; o que viesse depois se gravaria solto, um a um.
+    if (em_transacao && sqlite3_get_autocommit(banco) != 0) falha(SQLITE_ABORT);
+}
+
 void Conexao::executa(const char* sql) const {
+    exige_transacao();
     if (const int codigo = sqlite3_exec(banco, sql, nullptr, nullptr, nullptr); codigo != SQLITE_OK) falha(codigo);
 }
 
@@ -152,8 +159,7 @@ void Comando::poe(int posicao, const Campo& campo) {
 }
 
 bool Comando::passo() {
-    // Um erro grave faz o SQLite desfazer a transação por si; o que viesse depois se gravaria solto, um a um.
-    if (conexao->em_transacao && sqlite3_get_autocommit(conexao->banco) != 0) conexao->falha(SQLITE_ABORT);
+    conexao->exige_transacao();
     const int codigo = sqlite3_step(comando);
     if (codigo == SQLITE_ROW) return true;
     sqlite3_reset(comando);
@@ -386,6 +392,8 @@ Database Workspace::abre(std::string_view caminho, int modo) {
 // Põe a conexão na transação em curso. IMMEDIATE: se outro programa está gravando, é melhor saber já.
 void Workspace::entra(const std::shared_ptr<Conexao>& conexao) {
     if (conexao->em_transacao) return;
+    // Num arquivo que só se pode ler o SQLite começaria calado uma transação de leitura.
+    if (sqlite3_db_readonly(conexao->banco, "main") != 0) conexao->falha(SQLITE_READONLY);
     conexao->executa("BEGIN IMMEDIATE");
     conexao->em_transacao = true;
     em_transacao.push_back(conexao);

@@ -191,11 +191,12 @@ void trata_tecla(const Tecla& t) {
         if (foco->teclado(t)) return mostra_foco();
     }
     const bool enter = t.codigo == SDLK_RETURN || t.codigo == SDLK_KP_ENTER;
+    const bool quadro = tela->dialogo && tela->controles.empty(); // só se olha e se fecha
     const bool mais = t.codigo == SDLK_PLUS || t.codigo == SDLK_KP_PLUS || t.codigo == SDLK_EQUALS;
     const bool menos = t.codigo == SDLK_MINUS || t.codigo == SDLK_KP_MINUS;
     if (t.codigo == SDLK_TAB || e_seta(t.codigo))
         leva_foco(t);
-    else if (t.codigo == SDLK_ESCAPE && tela->dialogo)
+    else if (tela->dialogo && (t.codigo == SDLK_ESCAPE || (quadro && (enter || t.codigo == SDLK_SPACE))))
         tela->pede_fechar();
     else if (foco != nullptr && (enter || t.codigo == SDLK_SPACE))
         aciona_foco(*foco, enter);

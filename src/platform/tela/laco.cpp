@@ -165,7 +165,8 @@ bool dispara_um() {
     }
     if (vencido == nullptr) return false;
     // Quem perdeu a hora por mais de um intervalo não a recupera em rajada.
-    vencido->proximo = std::max(vencido->proximo + vencido->intervalo, agora + 1);
+    vencido->proximo += vencido->intervalo;
+    if (vencido->proximo <= agora) vencido->proximo = agora + vencido->intervalo;
     vencido->disparando = true;
     if (vencido->dispara) vencido->dispara();
     vencido->disparando = false;

@@ -1,6 +1,9 @@
 #include "platform/base/dao.h"
 
 #include "apoio.h"
+#include "platform/base/disco_de_teste.h"
+
+#include <sqlite3.h>
 
 namespace verdalia {
 
@@ -113,6 +116,23 @@ TEST_F(Dao, TransacoesSeEncaixam) {
     EXPECT_EQ(gravado(), "1 2");
     junta(6);
     EXPECT_EQ(gravado(), "1 2 6");
+}
+
+// Um disco cheio desfaz a transação por dentro: quem não percebe e segue em frente não grava nada solto.
+TEST_F(Dao, NadaSeGravaForaDaTransacaoQueFalhou) {
+    DiscoDeTeste disco;
+    disco.codigo_falha = SQLITE_FULL;
+    junta(1);
+    Passo passo(area);
+    disco.falha_em = disco.escritas;
+    EXPECT_THROW(junta(2), ErroBanco);
+    disco.falha_em = -1;
+    EXPECT_THROW(junta(3), ErroBanco);
+    EXPECT_THROW(area.OpenDatabase("\\prova.mdb").executa("DELETE FROM t"), ErroBanco);
+    EXPECT_THROW(passo.confirma(), ErroBanco);
+    EXPECT_EQ(gravado(), "1");
+    junta(4);
+    EXPECT_EQ(gravado(), "1 4");
 }
 
 } // namespace verdalia

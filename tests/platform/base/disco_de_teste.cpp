@@ -77,6 +77,8 @@ const sqlite3_io_methods metodos = [] {
 
 int abre(sqlite3_vfs*, const char* nome, sqlite3_file* f, int modo, int* modo_dado) {
     f->pMethods = nullptr;
+    if (disco != nullptr && disco->so_leitura)
+        modo = (modo & ~(SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE)) | SQLITE_OPEN_READONLY;
     const int codigo = sistema->xOpen(sistema, nome, de_verdade(f), modo, modo_dado);
     if (codigo != SQLITE_OK) return codigo;
     f->pMethods = &metodos;

@@ -29,6 +29,7 @@ struct DiscoDeTeste {
     int falha_em = -1;    // a partir desta escrita (0 é a primeira)...
     int codigo_falha = 0; // ...todas dão este código do SQLite
     int escritas = 0;
+    bool so_leitura = false; // os bancos abrem como se faltasse permissão para gravar
 };
 
 using Arquivos = std::map<std::string, std::string>; // nome, bytes

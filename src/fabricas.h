@@ -1,0 +1,30 @@
+// Quem está atrás de cada nome de tela: a navegação inteira do jogo. Só main e os testes a incluem.
+#pragma once
+#include "flow/conf_cd.h"
+#include "flow/dialogos.h"
+#include "flow/em_construcao.h"
+#include "flow/fundo.h"
+#include "flow/intronew.h"
+
+namespace verdalia {
+
+template <class T> std::unique_ptr<Tela> nova() {
+    return std::make_unique<T>();
+}
+
+inline constexpr FabricaDeTela fabricas_do_jogo[] = {
+    {TelaId::fundo, nova<fundo>},
+    {TelaId::Conf_cd, nova<Conf_cd>},
+    {TelaId::INTRONEW, nova<INTRONEW>},
+    {TelaId::conf, nova<em_construcao>},
+    {TelaId::feira_horta, nova<em_construcao>},
+    {TelaId::controle_da_sementeira, nova<em_construcao>},
+    {TelaId::trabalhando_na_horta, nova<em_construcao>},
+    {TelaId::age, nova<em_construcao>},
+    {TelaId::help, nova<em_construcao>},
+    {TelaId::ok, nova<ok>},
+    {TelaId::form_ok_nao, nova<form_ok_nao>},
+    {TelaId::ok_help, nova<ok_help>},
+};
+
+} // namespace verdalia

@@ -1,0 +1,250 @@
+#include "roteiro.h"
+
+#include "platform/tela/botao.h"
+#include "platform/tela/caixa_texto.h"
+#include "platform/tela/figura.h"
+#include "platform/tela/lista.h"
+#include "platform/tela/matriz.h"
+#include "platform/tela/opcao.h"
+#include "platform/tela/som.h"
+
+namespace verdalia {
+namespace {
+
+constexpr TelaId id_bancada{100};
+constexpr TelaId id_caixa{101};
+
+// Uma tela de teste com um pouco de tudo.
+struct Bancada : Tela {
+    Figura canteiro{*this, "canteiro"};
+    Matriz<Figura> muda{*this, "muda"};
+    Botao botao{*this, "botao"};
+    Marca marca{*this, "marca"};
+    Matriz<Opcao> opcao{*this, "opcao"};
+    ListaSuspensa lista{*this, "lista"};
+    CaixaTexto nome_{*this, "nome"};
+    Temporizador relogio_1{*this};
+    std::vector<std::string> feitos;
+
+    Bancada() : Tela("bancada") {}
+    void Form_Load() override {
+        constexpr Lugar lugares[] = {{"canteiro", -1, 300, 200, 420, 420},
+                                     {"botao", -1, 20, 20, 100, 40, "&Ok"},
+                                     {"marca", -1, 20, 80, 100, 20, "Som"},
+                                     {"lista", -1, 20, 140, 100, 30},
+                                     {"nome", -1, 20, 500, 200, 30}};
+        arruma(*this, lugares);
+        for (int i = 0; i < 2; ++i) {
+            muda.cria(i).esquerda = 20 + 60 * i;
+            muda(i).topo = 300;
+            muda(i).largura = muda(i).altura = 40;
+            muda(i).arrasta = true;
+            opcao.cria(i).topo = 400 + 30 * i;
+            opcao(i).largura = 100;
+            opcao(i).altura = 20;
+        }
+        canteiro.grade = {10, 10, 42, 42};
+        canteiro.solta = [this](const Arraste& a) {
+            feitos.push_back("caiu " + a.fonte->nome + std::to_string(a.fonte->indice) + " em " +
+                             std::to_string(static_cast<int>(a.x / 42)) + "," +
+                             std::to_string(static_cast<int>(a.y / 42)));
+        };
+        muda(0).clique = [this] { feitos.push_back("clique na muda"); };
+        muda(1).sobre = [this](const Arraste&) { feitos.push_back("sobre a muda 1"); };
+        botao.clique = [this] { feitos.push_back("botão"); };
+        lista.itens = {"C:", "D:", "E:"};
+        lista.escolhido = 0;
+        nome_.maximo = 4;
+    }
+    void Form_Click() override { feitos.push_back("fundo"); }
+    void Form_DragDrop(const Arraste& a) override { feitos.push_back("fora " + a.fonte->nome); }
+};
+
+struct Caixa : Tela {
+    Botao fecha{*this, "fecha"};
+    Caixa() : Tela("caixa") {}
+    void Form_Load() override {
+        dialogo = fechavel = true;
+        largura = 300;
+        altura = 100;
+        fecha.largura = 80;
+        fecha.altura = 30;
+        fecha.clique = [this] { descarrega(*this); };
+    }
+};
+
+constexpr FabricaDeTela fabricas[] = {{id_bancada, nova<Bancada>}, {id_caixa, nova<Caixa>}};
+
+struct Laco : PartidaNaTela {
+    static Bancada& comeca() {
+        registra_telas(fabricas, [] { termina(); });
+        mostra(id_bancada);
+        return carrega_como<Bancada>(id_bancada);
+    }
+    Bancada& bancada = comeca();
+    std::vector<std::string>& feitos = bancada.feitos;
+    using Lista = std::vector<std::string>;
+};
+
+TEST_F(Laco, ClicaNoDeCimaNoInativoENoFundo) {
+    bancada.muda(1).esquerda = 30; // por cima da muda 0
+    bancada.muda(1).arrasta = false;
+    bancada.muda(1).clique = [this] { feitos.push_back("muda de cima"); };
+    roteiro.clica("muda", 1).clica("botao").confere([this] { bancada.botao.ativo = false; }).clica("botao");
+    roteiro.clica_em(200, 10).clica("muda", 1, 2);
+    laco();
+    EXPECT_EQ(feitos, (Lista{"muda de cima", "botão", "fundo"}));
+}
+
+TEST_F(Laco, ArrasteCaiNaCasaNoFundoENaoForaDaJanela) {
+    roteiro.arrasta("muda", 0, 300 + 41.9, 200 + 42).arrasta("muda", 1, 250, 30).arrasta("muda", 0, 900, 700);
+    roteiro.clica("muda", 0).arrasta("muda", 0, bancada.muda(1).esquerda + 5, 305);
+    laco();
+    EXPECT_EQ(feitos, (Lista{"caiu muda0 em 0,1", "sobre a muda 1", "fora muda", "clique na muda", "sobre a muda 1"}));
+}
+
+TEST_F(Laco, QuemESomeNoProprioEventoNaoEUsadoDepois) {
+    bancada.canteiro.solta = [this](const Arraste& a) {
+        bancada.muda.destroi(a.fonte->indice);
+        feitos.push_back("caiu " + a.fonte->nome);
+    };
+    bancada.muda(1).sobre = nullptr;
+    roteiro.arrasta("muda", 1, 320, 220).confere([this] { EXPECT_FALSE(bancada.muda.existe(1)); }).clica_em(85, 320);
+    laco();
+    EXPECT_EQ(feitos, (Lista{"caiu muda", "fundo"}));
+}
+
+TEST_F(Laco, TecladoLevaFocoAcionaEArrasta) {
+    bancada.foco = &bancada.muda(0);
+    // A primeira tecla mostra o foco; Enter pega a muda, as setas a levam à casa de baixo, Enter a larga.
+    roteiro.tecla(SDLK_TAB).tecla(SDLK_SPACE).tecla(SDLK_RETURN).tecla(SDLK_RIGHT).tecla(SDLK_DOWN).tecla(SDLK_RETURN);
+    // Esc desiste.
+    roteiro.tecla(SDLK_RETURN).tecla(SDLK_RIGHT).tecla(SDLK_ESCAPE);
+    // A letra sublinhada aciona o botão; com a caixa de texto em foco, é só uma letra.
+    roteiro.tecla(SDLK_o).clica("nome").tecla(SDLK_o).escreve("o");
+    laco();
+    EXPECT_EQ(feitos, (Lista{"clique na muda", "caiu muda0 em 0,3", "botão"}));
+    EXPECT_EQ(bancada.nome_.texto, "o");
+}
+
+TEST_F(Laco, TabPercorreTodosOsControlesEVolta) {
+    std::vector<std::string> visitados;
+    for (int i = 0; i < 9; ++i) roteiro.tecla(SDLK_TAB).confere([&] { visitados.push_back(bancada.foco->nome); });
+    laco();
+    EXPECT_EQ(visitados, (Lista{"botao", "marca", "lista", "nome", "muda", "opcao", "muda", "opcao", "botao"}));
+}
+
+TEST_F(Laco, CaixaDeTextoContaLetrasENaoBytes) {
+    bancada.nome_.muda = [this] { feitos.push_back(bancada.nome_.texto); };
+    roteiro.clica("nome").escreve("çã").escreve("éî").escreve("x").tecla(SDLK_BACKSPACE).tecla(SDLK_HOME);
+    roteiro.tecla(SDLK_DELETE).escreve("A");
+    laco();
+    EXPECT_EQ(feitos, (Lista{"çã", "çãéî", "çãé", "ãé", "Aãé"}));
+}
+
+TEST_F(Laco, ListaMarcaEOpcao) {
+    roteiro.clica("lista").clica_em(60, 140 + 30 * 2 + 15).confere([this] { EXPECT_EQ(bancada.lista.escolhido, 1); });
+    roteiro.tecla(SDLK_DOWN).clica("marca").clica("opcao", 0).clica("opcao", 1);
+    laco();
+    EXPECT_EQ(bancada.lista.escolhido, 2);
+    EXPECT_TRUE(bancada.marca.marcada);
+    EXPECT_FALSE(bancada.opcao(0).marcada);
+    EXPECT_TRUE(bancada.opcao(1).marcada);
+}
+
+TEST_F(Laco, TemporizadorAndaComATelaNoAltoEComDialogoPorCima) {
+    int tiques = 0;
+    bancada.relogio_1.dispara = [&] {
+        if (++tiques == 3) mostra_modal(id_caixa);
+    };
+    bancada.relogio_1.intervalo = 100;
+    roteiro.espera_ms(350).confere([&] { EXPECT_EQ(tiques, 3); }).esta_em("caixa");
+    // Quem abriu o diálogo não dispara de novo dentro dele.
+    roteiro.espera_ms(500).confere([&] { EXPECT_EQ(tiques, 3); }).clica("fecha").espera_ms(210);
+    roteiro.confere([&] {
+        EXPECT_GE(tiques, 5);
+        bancada.relogio_1.intervalo = 0;
+    });
+    roteiro.espera_ms(1000);
+    laco();
+    EXPECT_LE(tiques, 6);
+}
+
+TEST_F(Laco, EmRepousoNaoPintaNemAcorda) {
+    int pinturas = 0, esperas = 0;
+    roteiro.espera_ms(1000).confere([&] {
+        pinturas = roteiro.pinturas;
+        esperas = roteiro.esperas;
+    });
+    roteiro.espera_ms(60'000);
+    laco();
+    EXPECT_EQ(roteiro.pinturas, pinturas);
+    EXPECT_LE(roteiro.esperas, esperas + 2);
+}
+
+TEST_F(Laco, DialogoSeguraOMouseESeFechaPelaCaixa) {
+    bancada.botao.clique = [this] {
+        mostra_modal(id_caixa);
+        feitos.push_back("voltou");
+    };
+    const auto fecha = [] {
+        const Retangulo r = tela_ativa()->caixa_de_fechar();
+        return std::pair{r.x + r.largura / 2, r.y + r.altura / 2};
+    };
+    roteiro.clica("botao").clica_em(200, 10).esta_em("caixa").confere([&] {
+        const auto [x, y] = fecha();
+        roteiro.clica_em(x, y)
+            .esta_em("bancada")
+            .clica("botao")
+            .tecla(SDLK_ESCAPE)
+            .esta_em("bancada")
+            .clica_em(200, 10);
+    });
+    laco();
+    EXPECT_EQ(feitos, (Lista{"voltou", "voltou", "fundo"}));
+}
+
+TEST_F(Laco, SomEsperadoGuardaOsCliquesEAcabaNaHora) {
+    roteiro.duracao_dos_sons = 300;
+    bancada.botao.clique = [this] {
+        const auto antes = relogio_de_teste.ms;
+        sndPlaySoundA("\\blip.wav", espera_o_fim);
+        EXPECT_EQ(relogio_de_teste.ms - antes, 300);
+        feitos.push_back("soou");
+    };
+    roteiro.clica("botao").espera_ms(100).clica("muda", 0).espera_ms(1000);
+    laco();
+    EXPECT_EQ(feitos, (Lista{"soou", "clique na muda"}));
+    EXPECT_EQ(roteiro.tocados, (Lista{"\\blip.wav"}));
+}
+
+TEST_F(Laco, DicaPintaUmaVezDepoisDaDemora) {
+    bancada.botao.dica = "Uma dica";
+    int antes = 0;
+    roteiro.clica("botao").espera_ms(100).confere([&] { antes = roteiro.pinturas; }).espera_ms(2000);
+    roteiro.confere([&] { EXPECT_EQ(roteiro.pinturas, antes); }); // apertar dispensa a dica
+    roteiro.clica("marca").espera_ms(100).move_para("botao").espera_ms(100);
+    roteiro.confere([&] { antes = roteiro.pinturas; }).espera_ms(2000);
+    laco();
+    EXPECT_EQ(roteiro.pinturas, antes + 1);
+}
+
+TEST_F(Laco, DuasTelasNaoSeEncontramQuandoUmaSaiPorBaixoDoDialogo) {
+    bancada.relogio_1.dispara = [this] {
+        bancada.relogio_1.intervalo = 0;
+        descarrega(bancada);
+    };
+    bancada.botao.clique = [this] {
+        bancada.relogio_1.intervalo = 100;
+        mostra_modal(id_caixa);
+        EXPECT_FALSE(carregada(id_bancada));
+        feitos.push_back("a tela ainda existe"); // só se destrói depois deste evento
+        EXPECT_EQ(feitos.size(), 1U);
+    };
+    roteiro.clica("botao").espera_ms(200).esta_em("caixa").clica("fecha");
+    laco();
+    EXPECT_EQ(tela_ativa(), nullptr);
+}
+
+} // namespace
+} // namespace verdalia

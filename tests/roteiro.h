@@ -1,0 +1,164 @@
+// O hospedeiro dos testes: um roteiro no lugar do jogador, um relógio que só anda quando o laço dorme, um registro no
+// lugar do som e uma superfície no lugar da janela. Uma apresentação de 12 segundos passa em microssegundos.
+#pragma once
+
+#include "apoio.h"
+#include "fabricas.h"
+#include "flow/saida.h"
+#include "platform/tela/laco.h"
+
+#include <SDL.h>
+#include <deque>
+
+namespace verdalia {
+
+struct Roteiro : Hospedeiro {
+    explicit Roteiro(RelogioDeTeste& relogio_do_teste, int escala = 1) : tempo(relogio_do_teste) {
+        janela.reset(SDL_CreateRGBSurfaceWithFormat(0, largura_logica * escala, altura_logica * escala, 32,
+                                                    SDL_PIXELFORMAT_XRGB8888));
+        hospedeiro = this;
+    }
+    Roteiro(const Roteiro&) = delete;
+    Roteiro& operator=(const Roteiro&) = delete;
+    ~Roteiro() override { hospedeiro = nullptr; }
+
+    // O que o jogador faz, na ordem. Um controle é procurado na tela ativa quando chega a vez do passo.
+    Roteiro& clica(const char* nome, int indice = -1, int botao = 1) {
+        return passo([=, this] {
+            if (Controle* c = acha_controle(nome, indice)) clica_no_ponto(meio(*c), botao);
+        });
+    }
+    Roteiro& clica_em(double x, double y) {
+        return passo([=, this] { clica_no_ponto({x, y}, 1); });
+    }
+    Roteiro& move_para(const char* nome, int indice = -1) {
+        return passo([=, this] {
+            if (Controle* c = acha_controle(nome, indice)) agora({mouse(Evento::move, meio(*c))});
+        });
+    }
+    // Leva um controle até um ponto em pixels lógicos da janela, em dois movimentos.
+    Roteiro& arrasta(const char* nome, int indice, double x, double y) {
+        return passo([=, this] {
+            Controle* c = acha_controle(nome, indice);
+            if (c == nullptr) return;
+            const Ponto de = meio(*c);
+            agora({mouse(Evento::move, de), mouse(Evento::aperta, de),
+                   mouse(Evento::move, {(de.x + x) / 2, (de.y + y) / 2}), mouse(Evento::move, {x, y}),
+                   mouse(Evento::solta, {x, y})});
+        });
+    }
+    Roteiro& tecla(int codigo, bool maiuscula = false) {
+        return passo([=, this] {
+            agora({Evento{.tipo = Evento::tecla, .tecla_apertada = {codigo, maiuscula, false, false}}});
+        });
+    }
+    Roteiro& escreve(const char* letras) {
+        return passo([=, this] { agora({Evento{.tipo = Evento::texto, .escrito = letras}}); });
+    }
+    Roteiro& fecha_janela() {
+        return passo([this] { agora({Evento{.tipo = Evento::fecha}}); });
+    }
+    Roteiro& espera_ms(std::int64_t ms) {
+        return passo([=, this] { acorda_em = tempo.ms + ms; });
+    }
+    Roteiro& confere(std::function<void()> teste) { return passo(std::move(teste)); }
+    // Confere que a tela ativa é essa.
+    Roteiro& esta_em(const char* nome) {
+        return passo([=] {
+            ASSERT_NE(tela_ativa(), nullptr);
+            EXPECT_EQ(tela_ativa()->nome, nome);
+        });
+    }
+
+    bool proximo(Evento& e) override {
+        while (true) {
+            if (!eventos.empty()) {
+                e = eventos.front();
+                eventos.pop_front();
+                return true;
+            }
+            if (tempo.ms < acorda_em || passos.empty()) return false;
+            auto vez = std::move(passos.front());
+            passos.pop_front();
+            vez();
+        }
+    }
+    bool espera(std::int64_t ms) override {
+        ++esperas;
+        if (tempo.ms >= acorda_em && passos.empty()) return false; // fim do roteiro
+        const std::int64_t falta = acorda_em - tempo.ms;
+        tempo.ms += ms < 0 ? falta : std::min(ms, falta);
+        return true;
+    }
+    SDL_Surface* superficie() override { return janela.get(); }
+    void apresenta() override { ++pinturas; }
+    void mostra_ponteiro(int numero) override { ponteiro = numero; }
+    void troca_tela_cheia() override {}
+    int toca(const std::string& caminho) override {
+        tocados.push_back(caminho);
+        return duracao_dos_sons;
+    }
+
+    std::vector<std::string> tocados;
+    int duracao_dos_sons = 0;
+    int ponteiro = -1;
+    int pinturas = 0;
+    int esperas = 0;
+    Superficie janela;
+
+private:
+    struct Ponto {
+        double x, y;
+    };
+    Roteiro& passo(std::function<void()> p) {
+        passos.push_back(std::move(p));
+        return *this;
+    }
+    void agora(std::initializer_list<Evento> novos) { eventos.insert(eventos.end(), novos); }
+    static Controle* acha_controle(const char* nome, int indice) {
+        Tela* t = tela_ativa();
+        Controle* c = t != nullptr ? t->controle(nome, indice) : nullptr;
+        EXPECT_NE(c, nullptr) << "não há " << nome << '(' << indice << ") em " << (t != nullptr ? t->nome : "nenhuma");
+        return c;
+    }
+    static Ponto meio(const Controle& c) {
+        const Retangulo r = c.lugar();
+        return {c.dona.origem_x() + r.x + r.largura / 2, c.dona.origem_y() + r.y + r.altura / 2};
+    }
+    Evento mouse(Evento::Tipo tipo, Ponto p, int botao = 1) const {
+        const double escala = double(janela->w) / largura_logica;
+        return {.tipo = tipo, .x = static_cast<int>(p.x * escala), .y = static_cast<int>(p.y * escala), .botao = botao};
+    }
+    void clica_no_ponto(Ponto p, int botao) {
+        agora({mouse(Evento::move, p), mouse(Evento::aperta, p, botao), mouse(Evento::solta, p, botao)});
+    }
+
+    RelogioDeTeste& tempo;
+    std::deque<std::function<void()>> passos;
+    std::deque<Evento> eventos;
+    std::int64_t acorda_em = 0;
+};
+
+// Uma partida com as mídias construídas e o laço zerado; `roteiro` é o jogador.
+struct PartidaNaTela : Partida {
+    PartidaNaTela() {
+        define_pastas(jogador, VERDALIA_PROGRAMA);
+        dir_media = "C:";
+        dir_audio = "C:\\audio\\correto";
+        som_ligado = musica_ligada = auto_abastecido = false;
+        anim_acao = anim_quadros = 0;
+        abre_fontes();
+        registra_telas(fabricas_do_jogo, sai_do_jogo);
+    }
+    ~PartidaNaTela() override { recomeca_laco(); }
+
+    // Joga o roteiro do começo do programa até o fim dele.
+    void joga() {
+        mostra(TelaId::fundo);
+        laco();
+    }
+
+    Roteiro roteiro{relogio_de_teste};
+};
+
+} // namespace verdalia
