@@ -5,6 +5,8 @@
 #include "flow/em_construcao.h"
 #include "flow/fundo.h"
 #include "flow/intronew.h"
+#include "garden/trabalhando_na_horta.h"
+#include "market/feira_horta.h"
 
 namespace verdalia {
 
@@ -17,9 +19,9 @@ inline constexpr FabricaDeTela fabricas_do_jogo[] = {
     {TelaId::Conf_cd, nova<Conf_cd>},
     {TelaId::INTRONEW, nova<INTRONEW>},
     {TelaId::conf, nova<em_construcao>},
-    {TelaId::feira_horta, nova<em_construcao>},
+    {TelaId::feira_horta, nova<feira_horta>},
     {TelaId::controle_da_sementeira, nova<em_construcao>},
-    {TelaId::trabalhando_na_horta, nova<em_construcao>},
+    {TelaId::trabalhando_na_horta, nova<trabalhando_na_horta>},
     {TelaId::age, nova<em_construcao>},
     {TelaId::help, nova<em_construcao>},
     {TelaId::ok, nova<ok>},

@@ -1,45 +1,57 @@
 #include "flow/animacao.h"
 
 #include "data/estado.h"
+#include "flow/falas.h"
+#include "platform/tela/botao.h"
 
 #include <algorithm>
 
 namespace verdalia {
 
-namespace {
-
-const Serie* serie_da(std::span<const Serie> series, int acao) {
-    const auto achada = std::find_if(series.begin(), series.end(), [acao](const Serie& s) { return s.acao == acao; });
-    return achada == series.end() ? nullptr : &*achada;
-}
-
-} // namespace
-
-std::string arquivo_do_quadro(const Serie& serie, int numero) {
-    std::string n = std::to_string(numero);
-    n.insert(0, static_cast<std::size_t>(std::max(0, serie.algarismos - static_cast<int>(n.size()))), '0');
-    return dir_media + serie.antes + n + serie.depois;
-}
-
-void comeca_animacao(std::span<const Serie> series, std::int16_t acao, Temporizador& timer_) {
+void Animacao::comeca(std::int16_t acao) {
+    const auto serie = std::find_if(series.begin(), series.end(), [acao](const Serie& s) { return s.acao == acao; });
+    contador[static_cast<std::size_t>(serie - series.begin())] = serie->inicio;
     anim_acao = acao;
-    anim_quadros = static_cast<std::int16_t>(serie_da(series, acao)->quadros.size());
+    anim_quadros = serie->do_clique > 0 ? serie->do_clique : static_cast<std::int16_t>(serie->quadros.size());
     timer_.intervalo = intervalo_da_animacao;
 }
 
-void tique_da_animacao(Tela& tela, std::span<const Serie> series, Temporizador& timer_,
-                       const std::function<void(int acao)>& fim) {
-    const Serie* serie = serie_da(series, anim_acao);
-    if (timer_.intervalo == 0 || serie == nullptr) return;
-    if (anim_quadros <= 0) {
-        timer_.intervalo = 0;
-        fim(anim_acao);
+void Animacao::mostra_quadro(const Serie& serie, int numero) {
+    std::string n = std::to_string(numero);
+    n.insert(0, static_cast<std::size_t>(std::max(0, serie.algarismos - static_cast<int>(n.size()))), '0');
+    const ImagemRef quadro =
+        carrega_figura(serie.arquivo != nullptr ? serie.arquivo(numero) : dir_media + serie.antes + n + serie.depois);
+    Controle* c = tela.controle(serie.controle, serie.indice);
+    if (auto* botao = dynamic_cast<Botao*>(c); botao != nullptr && !botao->ativo)
+        botao->figura_apagada = quadro;
+    else if (c != nullptr)
+        c->figura = quadro;
+}
+
+void Animacao::acaba(const Serie& serie) {
+    timer_.intervalo = 0;
+    if (serie.repouso >= 0) mostra_quadro(serie, serie.repouso);
+    if (serie.destino == sem_destino) {
+        if (fim) fim(serie.acao);
         return;
     }
-    const int numero = serie->quadros[serie->quadros.size() - static_cast<std::size_t>(anim_quadros)];
-    --anim_quadros;
-    if (Controle* c = tela.controle(serie->controle, serie->indice))
-        c->figura = carrega_figura(arquivo_do_quadro(*serie, numero));
+    if (Controle* c = tela.controle(serie.controle, serie.indice)) c->ponteiro = ponteiro_ampulheta;
+    if (serie.fala != nullptr) fala(serie.fala, espera_o_fim);
+    descarrega(tela);
+    mostra(serie.destino);
+}
+
+void Animacao::tique() {
+    if (timer_.intervalo == 0) return;
+    for (std::size_t i = 0; i < series.size(); ++i) {
+        const Serie& serie = series[i];
+        if (anim_acao != serie.acao && !(passeio && serie.no_passeio)) continue;
+        if (anim_quadros <= 0) return acaba(serie);
+        --anim_quadros;
+        const auto total = static_cast<std::int16_t>(serie.quadros.size());
+        mostra_quadro(serie, serie.quadros[static_cast<std::size_t>(contador[i] - 1)]);
+        contador[i] = contador[i] == total ? std::int16_t{1} : static_cast<std::int16_t>(contador[i] + 1);
+    }
 }
 
 } // namespace verdalia

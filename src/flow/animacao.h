@@ -1,35 +1,56 @@
 // As animações das telas: séries de quadros numerados, lidos do disco a cada tique de 100 ms. Uma figura quente não
 // age no clique: o clique escolhe a série, e a ação vem quando os quadros acabam. Cada tela traz a sua tabela.
 #pragma once
-#include "platform/tela/tela.h"
+#include "flow/telas.h"
 
 #include <cstdint>
 #include <functional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace verdalia {
 
 inline constexpr int intervalo_da_animacao = 100;
+inline constexpr TelaId sem_destino{-1};
 
 // Uma linha por animação da tela.
 struct Serie {
     std::int16_t acao;    // valor de `anim_acao`
-    const char* controle; // quem mostra os quadros
-    int indice;           // número do elemento, -1 fora de matriz
-    const char* antes;    // o arquivo é `dir_media` + antes + número + depois
-    int algarismos;
-    const char* depois;
-    std::span<const std::int8_t> quadros; // os números, na ordem em que aparecem; `anim_quadros` começa no total
+    const char* controle; // quem mostra os quadros; um botão os põe na face que está à vista
+    int indice = -1;      // número do elemento, -1 fora de matriz
+    // O arquivo é `dir_media` + antes + número + depois, ou o que `arquivo` disser do número.
+    const char* antes = "";
+    int algarismos = 2;
+    const char* depois = ".bmp";
+    std::string (*arquivo)(int numero) = nullptr;
+    std::span<const std::int8_t> quadros; // os números, na ordem; do último volta-se ao primeiro
+    std::int16_t do_clique = 0;           // quantos quadros um clique mostra; 0: todos, uma vez
+    std::int16_t inicio = 1;              // o quadro da lista em que o clique começa, a partir de 1
+    bool no_passeio = false;              // gira também na apresentação
+    std::int16_t repouso = -1;            // o número que fica no fim; -1: o último mostrado
+    // A viagem do fim, se há: a fala que se ouve inteira e a tela que se abre no lugar desta.
+    const char* fala = nullptr;
+    TelaId destino = sem_destino;
 };
 
-// O caminho do quadro `numero` da série.
-std::string arquivo_do_quadro(const Serie& serie, int numero);
+// O andamento das séries de uma tela. `anim_acao` e `anim_quadros` dizem qual corre e quantos quadros faltam.
+struct Animacao {
+    Tela& tela;
+    Temporizador& timer_;
+    std::span<const Serie> series;
+    std::function<void(int acao)> fim; // o que a tela faz no fim de uma série sem viagem; pode ser vazia
+    std::vector<std::int16_t> contador = std::vector<std::int16_t>(series.size(), 1);
+    bool passeio = false; // a apresentação: todas as séries `no_passeio` giram juntas
 
-// Começa a série da tabela que tem essa ação.
-void comeca_animacao(std::span<const Serie> series, std::int16_t acao, Temporizador& timer_);
-// Um tique de `timer_`: mostra o próximo quadro da ação em curso ou, acabados, para o relógio e chama `fim`.
-void tique_da_animacao(Tela& tela, std::span<const Serie> series, Temporizador& timer_,
-                       const std::function<void(int acao)>& fim);
+    // Começa a série dessa ação, que tem de estar na tabela.
+    void comeca(std::int16_t acao);
+    // Um tique de `timer_`.
+    void tique();
+
+private:
+    void mostra_quadro(const Serie& serie, int numero);
+    void acaba(const Serie& serie);
+};
 
 } // namespace verdalia

@@ -3,11 +3,11 @@
 #include "data/banco.h"
 #include "data/estado.h"
 #include "data/plano.h"
-#include "flow/animacao.h"
 #include "flow/calendario.h"
 #include "flow/dialogos.h"
 #include "flow/falas.h"
 #include "flow/saida.h"
+#include "flow/sequencias.h"
 #include "platform/base/caminhos.h"
 
 namespace verdalia {
@@ -54,33 +54,38 @@ constexpr int ultima_pagina = std::size(paginas) - 1;
 
 enum : std::int16_t { acao_saida = 2, acao_agenda = 15, acao_semen, acao_horta, acao_feira, acao_interroga };
 
-constexpr std::int8_t quadros_saida[] = {1, 2, 3, 4, 4, 3, 2, 1, 0};
-constexpr std::int8_t quadros_agenda[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
-constexpr std::int8_t quadros_semen[] = {0, 1, 2, 3, 4, 5, 6, 7};
-constexpr std::int8_t quadros_horta[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 0};
-constexpr std::int8_t quadros_feira[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
-constexpr std::int8_t quadros_interroga[] = {5, 4, 3, 2, 1, 0};
-
 constexpr Serie series[] = {
-    {acao_saida, "saida", -1, "\\anima\\port", 2, ".bmp", quadros_saida},
-    {acao_agenda, "pic_agenda", -1, "\\anima\\age", 2, ".bmp", quadros_agenda},
-    {acao_semen, "pic_semen", -1, "\\anima\\mudas", 3, ".bmp", quadros_semen},
-    {acao_horta, "pic_horta", -1, "\\anima\\enx", 2, "c.bmp", quadros_horta},
-    {acao_feira, "pic_feira", -1, "\\anima\\cesta", 1, ".bmp", quadros_feira},
-    {acao_interroga, "interroga", -1, "\\anima\\int", 2, ".bmp", quadros_interroga},
-};
-
-// As viagens: a fala que se ouve até o fim e a tela que se abre.
-struct Viagem {
-    std::int16_t acao;
-    const char* fala;
-    TelaId destino;
-};
-constexpr Viagem viagens[] = {
-    {acao_agenda, "\\vamage.wav", TelaId::age},
-    {acao_semen, "\\vamsem.wav", TelaId::controle_da_sementeira},
-    {acao_horta, "\\vamhor.wav", TelaId::trabalhando_na_horta},
-    {acao_feira, "\\vamfei.wav", TelaId::feira_horta},
+    {.acao = acao_saida, .controle = "saida", .antes = "\\anima\\port", .quadros = porta_abre_e_fecha},
+    {.acao = acao_agenda,
+     .controle = "pic_agenda",
+     .antes = "\\anima\\age",
+     .quadros = de_0_a_10,
+     .fala = "\\vamage.wav",
+     .destino = TelaId::age},
+    {.acao = acao_semen,
+     .controle = "pic_semen",
+     .antes = "\\anima\\mudas",
+     .algarismos = 3,
+     .quadros = de_0_a_7,
+     .fala = "\\vamsem.wav",
+     .destino = TelaId::controle_da_sementeira},
+    {.acao = acao_horta,
+     .controle = "pic_horta",
+     .antes = "\\anima\\enx",
+     .depois = "c.bmp",
+     .quadros = de_0_a_10,
+     .do_clique = 12,
+     .repouso = 0,
+     .fala = "\\vamhor.wav",
+     .destino = TelaId::trabalhando_na_horta},
+    {.acao = acao_feira,
+     .controle = "pic_feira",
+     .antes = "\\anima\\cesta",
+     .algarismos = 1,
+     .quadros = de_0_a_9,
+     .fala = "\\vamfei.wav",
+     .destino = TelaId::feira_horta},
+    {.acao = acao_interroga, .controle = "interroga", .antes = "\\anima\\int", .quadros = de_5_a_0},
 };
 
 constexpr int intervalo_da_minhoca = 100;
@@ -89,6 +94,8 @@ constexpr double minhoca_volta_em = 2400 * twip;
 constexpr double minhoca_vai_em = 10200 * twip;
 
 } // namespace
+
+INTRONEW::INTRONEW() : Tela("INTRONEW"), animacao{*this, timer_, series, [this](int acao) { fim_da_animacao(acao); }} {}
 
 void INTRONEW::cria_controles() {
     for (int i = 0; i <= ultima_pagina; ++i) {
@@ -120,7 +127,7 @@ void INTRONEW::cria_controles() {
     pic_feira.clique = [this] { clique_quente(acao_feira, nullptr); };
     interroga.clique = [this] { clique_quente(acao_interroga, &interroga); };
     Label2.clique = [this] { Label2_Click(); };
-    timer_.dispara = [this] { tique_da_animacao(*this, series, timer_, [this](int acao) { fim_da_animacao(acao); }); };
+    timer_.dispara = [this] { animacao.tique(); };
     Timer1.dispara = [this] { Timer1_Timer(); };
 }
 
@@ -185,25 +192,14 @@ void INTRONEW::Form_Activate() {
 
 void INTRONEW::clique_quente(std::int16_t acao, Controle* com_ampulheta) {
     if (com_ampulheta != nullptr) com_ampulheta->ponteiro = ponteiro_ampulheta;
-    comeca_animacao(series, acao, timer_);
+    animacao.comeca(acao);
 }
 
 void INTRONEW::fim_da_animacao(int acao) {
     if (acao == acao_saida) return sai_do_jogo();
-    if (acao == acao_interroga) {
-        silencia(sem_esperar);
-        topico_help = tela_origem = "Orgânico";
-        mostra(TelaId::help);
-        return;
-    }
-    for (const Viagem& v : viagens) {
-        if (v.acao != acao) continue;
-        if (acao == acao_horta) pic_horta.figura = carrega_figura(dir_media + "\\anima\\enx00c.bmp");
-        if (acao == acao_feira) pic_feira.ponteiro = ponteiro_ampulheta;
-        fala(v.fala, espera_o_fim);
-        descarrega(*this);
-        mostra(v.destino);
-    }
+    silencia(sem_esperar);
+    topico_help = tela_origem = "Orgânico";
+    mostra(TelaId::help);
 }
 
 void INTRONEW::Label1_Click(int Index) {

@@ -1,7 +1,7 @@
 // O centro do jogo: a porta da saída, os caminhos para as outras telas e o guia em figuras. A primeira carga traz a
 // horta do banco e a põe em dia com o calendário.
 #pragma once
-#include "flow/telas.h"
+#include "flow/animacao.h"
 #include "platform/tela/figura.h"
 #include "platform/tela/matriz.h"
 #include "platform/tela/rotulo.h"
@@ -22,12 +22,13 @@ struct INTRONEW : Tela {
     Figura pic_nhoca{*this, "pic_nhoca"};
     Temporizador timer_{*this};
     Temporizador Timer1{*this};
+    Animacao animacao;
 
     bool horta_vazia = true;
     std::int16_t nhoca_quadro = 0;
     bool nhoca_esquerda = true;
 
-    INTRONEW() : Tela("INTRONEW") {}
+    INTRONEW();
     void Form_Load() override;
     void Form_Activate() override;
 

@@ -189,6 +189,10 @@ TEST_F(Banco, ArquivoRuimEPostoDeLado) {
     std::string remexido = bom;
     for (std::size_t i = 4096; i < remexido.size(); i += 7) remexido[i] = static_cast<char>(~remexido[i]);
 
+    std::string so_leitura = bom, esquema = bom;
+    so_leitura[18] = 9;
+    esquema[47] = 9;
+
     const std::vector<std::pair<std::string, std::string>> casos = {
         {"", "danificado"},
         {"não é um banco", "danificado"},
@@ -197,6 +201,8 @@ TEST_F(Banco, ArquivoRuimEPostoDeLado) {
         {bom.substr(0, bom.size() / 2), "danificado"},
         {bom.substr(0, bom.size() - 4096), "danificado"},
         {remexido, "danificado"},
+        {so_leitura, "danificado"},
+        {esquema, "danificado"},
         {"PRAGMA user_version = 2", "mais nova"},
         {"PRAGMA application_id = 7", "não é deste jogo"},
         {"DROP TABLE rr", "danificado"},

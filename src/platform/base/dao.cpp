@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <fstream>
 #include <limits>
 #include <sqlite3.h>
 #include <utility>
@@ -59,6 +60,13 @@ std::string frase(int codigo, bool sem_cota, const fs::path& caminho) {
     }
 }
 
+// O byte 18 do cabeçalho é 1 ou 2; com outro valor, por estrago, o SQLite também só deixa ler.
+bool pede_outro_sqlite(const fs::path& caminho) {
+    std::ifstream arquivo(caminho, std::ios::binary);
+    arquivo.seekg(18);
+    return arquivo.get() > 2;
+}
+
 [[noreturn]] void engano(const std::string& qual) {
     throw ErroBanco(0, "Engano no uso do banco: " + qual + ".");
 }
@@ -78,7 +86,7 @@ std::string lista(const std::vector<std::string>& nomes, const char* depois) {
 } // namespace
 
 bool ErroBanco::danificado() const {
-    return codigo == SQLITE_CORRUPT || codigo == SQLITE_NOTADB;
+    return codigo == SQLITE_CORRUPT || codigo == SQLITE_NOTADB || codigo == SQLITE_ERROR;
 }
 
 // ---- Conexao
@@ -393,7 +401,8 @@ Database Workspace::abre(std::string_view caminho, int modo) {
 void Workspace::entra(const std::shared_ptr<Conexao>& conexao) {
     if (conexao->em_transacao) return;
     // Num arquivo que só se pode ler o SQLite começaria calado uma transação de leitura.
-    if (sqlite3_db_readonly(conexao->banco, "main") != 0) conexao->falha(SQLITE_READONLY);
+    if (sqlite3_db_readonly(conexao->banco, "main") != 0)
+        conexao->falha(pede_outro_sqlite(conexao->caminho) ? SQLITE_CORRUPT : SQLITE_READONLY);
     conexao->executa("BEGIN IMMEDIATE");
     conexao->em_transacao = true;
     em_transacao.push_back(conexao);

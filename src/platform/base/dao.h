@@ -26,7 +26,7 @@ namespace verdalia {
 struct ErroBanco : std::runtime_error {
     ErroBanco(int codigo, const std::string& frase) : std::runtime_error(frase), codigo(codigo) {}
 
-    bool danificado() const; // o arquivo não é um banco ou está estragado
+    bool danificado() const; // o arquivo não é um banco, está estragado ou tem tabelas que não se entendem
 
     int codigo; // o código primário do SQLite, ou 0
 };

@@ -45,7 +45,10 @@ void comeca_arraste(Controle* c, bool pelo_teclado) {
 
 void move_arraste() {
     e.alvo = controle_em(e.x, e.y);
-    if (e.alvo != nullptr && e.alvo->ativo && e.alvo->sobre) e.alvo->sobre(arraste_em(*e.alvo));
+    if (e.alvo == nullptr)
+        tela_ativa()->Form_DragOver();
+    else if (e.alvo->ativo && e.alvo->sobre)
+        e.alvo->sobre(arraste_em(*e.alvo));
     e.sujo = true;
 }
 

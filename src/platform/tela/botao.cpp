@@ -1,20 +1,32 @@
 #include "platform/tela/botao.h"
 
+#include <algorithm>
+
 namespace verdalia {
+
+namespace {
+constexpr double faixa_da_legenda = 15;
+}
 
 Botao::Botao(Tela& tela, std::string nome_dado, int indice_dado) : Controle(tela, std::move(nome_dado), indice_dado) {
     letra = {.familia = Familia::legenda, .corpo = 12, .negrito = true};
 }
 
+void Botao::pinta_grafico(Pintor& p, const Retangulo& r, Imagem& face, bool afundado) {
+    const double faixa = texto.empty() ? 0 : faixa_da_legenda, desce = afundado ? 1 : 0;
+    const double lado = std::min(r.largura, r.altura - faixa) - 6;
+    p.moldura(r, 9, 1, cor_madeira_escura, cor_fundo.a != 0 ? cor_fundo : cor_papel_claro);
+    p.imagem(face, {r.x + (r.largura - lado) / 2, r.y + 3 + desce, lado, lado});
+    if (texto.empty()) return;
+    const bool escuro = cor_fundo.a != 0 && cor_fundo.r * 3 + cor_fundo.g * 6 + cor_fundo.b < 10 * 110;
+    Letra escrita = {.familia = Familia::legenda, .corpo = 9, .negrito = true};
+    escrita.cor = escuro ? cor_tinta_clara : ativo ? Cor{0x2b, 0x1a, 0x10} : Cor{0x6b, 0x5a, 0x4a};
+    p.texto_em(texto, {r.x, r.y + r.altura - faixa - 3, r.largura, faixa + 2}, escrita);
+}
+
 void Botao::pinta(Pintor& p, const Retangulo& r) {
     const bool afundado = apertado() && ativo;
-    if (const ImagemRef& face = ativo ? figura : figura_apagada) {
-        // A cor de fundo aparece como um aro em volta da face: é ela que diz de que trabalho se trata.
-        if (cor_fundo.a != 0) p.redondo(r, 8, cor_fundo);
-        const double aro = (cor_fundo.a != 0 ? 4 : 0) + (afundado ? 1 : 0);
-        p.imagem(*face, {r.x + aro, r.y + aro, r.largura - 2 * aro, r.altura - 2 * aro});
-        return;
-    }
+    if (const ImagemRef& face = ativo ? figura : figura_apagada) return pinta_grafico(p, r, *face, afundado);
     const Cor cor = !ativo ? cor_papel_escuro : sob_o_mouse() ? Cor{0xf9, 0xdd, 0x7e} : cor_ouro;
     const double desce = afundado ? 2 : 0;
     if (!afundado) p.redondo({r.x, r.y + 3, r.largura, r.altura - 3}, 9, cor_madeira_escura);

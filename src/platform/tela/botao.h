@@ -1,5 +1,5 @@
-// Um botão: de texto ("&" marca a letra de atalho), ou gráfico, com uma face para ativo e outra para apagado sobre
-// a cor de fundo.
+// Um botão: de texto ("&" marca a letra de atalho), ou gráfico, com uma face para ativo e outra para apagado, a
+// cor de fundo em volta e o texto embaixo.
 #pragma once
 #include "platform/tela/controle.h"
 
@@ -11,6 +11,9 @@ struct Botao : Controle {
     ImagemRef figura_apagada; // a face de quando `ativo` é false; `figura` é a outra
 
     void pinta(Pintor& p, const Retangulo& r) override;
+
+private:
+    void pinta_grafico(Pintor& p, const Retangulo& r, Imagem& face, bool afundado);
 };
 
 } // namespace verdalia

@@ -78,4 +78,8 @@ ImagemRef carrega_figura(std::string_view caminho) {
     return figura;
 }
 
+void troca_figura(ImagemRef& figura, const std::string& caminho) {
+    if (!figura || figura->caminho != caminho) figura = carrega_figura(caminho);
+}
+
 } // namespace verdalia

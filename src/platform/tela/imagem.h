@@ -33,5 +33,7 @@ using ImagemRef = std::shared_ptr<Imagem>;
 // Lê uma figura pelo caminho do jogo; "" dá a figura vazia. Arquivo que falta ou está estragado: uma linha em
 // stderr e um cartão com o nome no lugar da figura.
 ImagemRef carrega_figura(std::string_view caminho);
+// Põe em `figura` a desse caminho, que só é lida se não é a que já está lá.
+void troca_figura(ImagemRef& figura, const std::string& caminho);
 
 } // namespace verdalia

@@ -36,6 +36,7 @@ struct Tela {
     virtual void Form_Unload() {}
     virtual void Form_Click() {}
     virtual void Form_DragDrop(const Arraste&) {}
+    virtual void Form_DragOver() {} // um arraste passa pelo fundo
     // O jogador pediu para fechar: caixa de fechar, Esc num diálogo, fecho da janela. Nas telas inteiras, a saída do
     // jogo.
     virtual void pede_fechar();

@@ -1,0 +1,110 @@
+// O tabuleiro: os controles dos canteiros e as três passadas que os acertam com as tabelas.
+#include "garden/tabuleiro.h"
+
+#include "data/estado.h"
+#include "data/plano.h"
+#include "garden/tabelas.h"
+#include "garden/trabalhando_na_horta.h"
+
+namespace verdalia {
+
+using namespace horta_tabelas;
+
+void trabalhando_na_horta::cria_canteiro(int i) {
+    const double esquerda = i % lado_da_horta * passo_da_horta, topo = i / lado_da_horta * passo_da_horta;
+    Figura& f = cant.cria(i);
+    f.pai = &horta;
+    f.esquerda = esquerda + 1;
+    f.topo = topo + 1;
+    f.largura = 39;
+    f.altura = 40;
+    f.visivel = false;
+    f.arrasta = true;
+    f.ponteiro = ponteiro_horta;
+    f.dica = nome_canteiro(i);
+    f.solta = [this](const Arraste& a) { cant_DragDrop(a); };
+    f.clique = [this] { Form_Click(); }; // como no fundo: cala o que se ouve
+    Rotulo& r = txt_label.cria(i);
+    r.pai = &horta;
+    r.esquerda = esquerda + 2;
+    r.topo = topo + 2;
+    r.largura = 37;
+    r.altura = 16;
+    r.borda = true;
+    r.visivel = false;
+    r.letra = {.corpo = 9, .negrito = true};
+    r.clique = [this, i] { marca_Click(i); };
+}
+
+void trabalhando_na_horta::destroi_canteiro(int i) {
+    cant.destroi(i);
+    txt_label.destroi(i);
+}
+
+void trabalhando_na_horta::cria_cants() {
+    for (int i = 0; i < n_canteiros; ++i)
+        if (st_cod_cult[i] > cult_vago) cria_canteiro(i);
+}
+
+void trabalhando_na_horta::paint_modulo(int i) {
+    if (st_cod_cult[i] == cult_vago) return destroi_canteiro(i);
+    if (st_cod_cult[i] < cult_vago) return;
+    troca_figura(cant(i).figura, dir_media + botao_da_cultura(st_cod_cult[i]).figura);
+    cant(i).visivel = true;
+}
+
+void trabalhando_na_horta::passa_pelos_canteiros(std::int16_t modo, const std::string& op, bool olha_o_feito) {
+    apaga_botoes();
+    for (int i = 0; i < n_canteiros; ++i) {
+        if (st_cod_cult[i] <= cult_vago) continue;
+        txt_label(i).visivel = false;
+        txt_label(i).texto = st_check[i] == -1 ? "ok" : "";
+        paint_modulo(i);
+        const std::string oper = oper_canteiro(st_cod_cult[i], st_idade[i]);
+        mostra_legenda(modo, op, i, false, oper);
+        acende(oper, olha_o_feito ? st_check[i] : std::int16_t{0});
+    }
+    poe_faces();
+}
+
+void trabalhando_na_horta::monta_matriz(std::int16_t modo, const std::string& op) {
+    passa_pelos_canteiros(modo, op, false);
+}
+
+void trabalhando_na_horta::monta_matriz2(std::int16_t modo, const std::string& op) {
+    passa_pelos_canteiros(modo, op, true);
+}
+
+void trabalhando_na_horta::monta_matriz3(std::int16_t modo, const std::string& op) {
+    for (int i = 0; i < n_canteiros; ++i) {
+        if (st_cod_cult[i] <= cult_vago) continue;
+        txt_label(i).texto = st_check[i] == -1 ? "ok" : "";
+        txt_label(i).visivel = false;
+        mostra_legenda(modo, op, i, false, oper_canteiro(st_cod_cult[i], st_idade[i]));
+    }
+}
+
+void trabalhando_na_horta::mostra_legenda(std::int16_t modo, const std::string& op, int i, bool recalcula,
+                                          std::string oper) {
+    leg_modo = modo;
+    leg_op = op;
+    for (const Trabalho& t : trabalhos) {
+        if (*t.codigo == '\0' || op != t.codigo) continue;
+        txt_label(i).cor_fundo = t.cor;
+        txt_label(i).letra.cor = t.cor_do_texto;
+    }
+    if (st_cod_cult[i] <= cult_vago || modo != 1) return;
+    if (recalcula) oper = oper_canteiro(st_cod_cult[i], st_idade[i]);
+    if (oper != op) return;
+    txt_label(i).visivel = true;
+    achou_canteiro = true;
+}
+
+void trabalhando_na_horta::btn_sem_horta() {
+    Botao& b = Command2(botao_sementeira);
+    const int pendencia = pend_leira();
+    b.ativo = pendencia == 1 || falta_semear();
+    b.cor_fundo = pendencia > 0 || b.ativo ? cor_sem : cor_cinza;
+}
+
+} // namespace verdalia

@@ -1,0 +1,158 @@
+#include "garden/trabalhando_na_horta.h"
+
+#include "data/estado.h"
+#include "data/plano.h"
+#include "flow/dialogos.h"
+#include "flow/falas.h"
+#include "garden/tabelas.h"
+#include "garden/tabuleiro.h"
+
+namespace verdalia {
+
+using namespace horta_tabelas;
+
+namespace {
+constexpr std::int16_t piscadas_da_horta = 19;
+}
+
+trabalhando_na_horta::trabalhando_na_horta()
+    : TelaDeTrabalho("trabalhando_na_horta", series, trabalhos, culturas, "Command2", "txt_label") {
+    solta_no_fundo = true;
+}
+
+void trabalhando_na_horta::cria_rotulos() {
+    const Letra letra_da_regua{.familia = Familia::legenda, .corpo = 10, .negrito = true};
+    for (int i = 0; i < lado_da_horta; ++i) {
+        Rotulo& coluna = Label1.cria(i);
+        coluna.texto = std::to_string(i + 1);
+        coluna.esquerda = 200 + passo_da_horta * i;
+        coluna.topo = 144;
+        coluna.largura = passo_da_horta;
+        coluna.altura = 19;
+        Rotulo& fileira = Label2.cria(i);
+        fileira.texto = std::string(1, static_cast<char>('A' + i));
+        fileira.esquerda = 179;
+        fileira.topo = 164 + passo_da_horta * i;
+        fileira.largura = 20;
+        fileira.altura = passo_da_horta;
+        coluna.letra = fileira.letra = letra_da_regua;
+    }
+    constexpr const char* topicos[] = {"Culturas1", "Culturas2"};
+    for (int k = 0; k < 2; ++k) {
+        Rotulo& r = lbl_verduras.cria(k);
+        r.quente = true;
+        r.ponteiro = ponteiro_mao;
+        r.letra = {.familia = Familia::legenda, .corpo = 12, .negrito = true};
+        r.clique = [this, &r, topico = topicos[k]] { vai_a_ajuda(r, topico); };
+    }
+}
+
+void trabalhando_na_horta::Form_Load() {
+    cria_rotulos();
+    prepara("horta", lugares);
+    leg_modo = 0;
+    leg_op.clear();
+    apaga_botoes();
+    for (const Trabalho& t : trabalhos) {
+        Command2(t.botao).visivel = false; // até que tenham as faces
+        Command2(t.botao).ponteiro = ponteiro_horta;
+    }
+    horta.figura = carrega_figura(dir_media + "\\anima\\g_horta3.jpg");
+    horta.ponteiro = ponteiro_horta;
+    horta.grade = {lado_da_horta, lado_da_horta, passo_da_horta, passo_da_horta};
+    horta.solta = [this](const Arraste& a) { horta_DragDrop(a); };
+    pic_semen.figura = carrega_figura(dir_media + "\\anima\\mudas007.bmp");
+    pic_semen.clique = [this] { parte(pic_semen, acao_semen); };
+    lbl_atividades.clique = [this] { vai_a_ajuda(lbl_atividades, "Atividades"); };
+    fundo = carrega_figura("\\back_ht6.jpg");
+    cria_cants();
+}
+
+void trabalhando_na_horta::Form_Activate() {
+    if (!primeira_ativacao) return;
+    abre(trilha_horta);
+    pl_tr(cult_vago);
+    monta_matriz2(0, "");
+    for (const Trabalho& t : trabalhos) Command2(t.botao).visivel = true;
+    poe_faces();
+    btn_sem_horta();
+    ponteiro = ponteiro_cruz;
+    primeira_ativacao = false;
+}
+
+void trabalhando_na_horta::Form_Click() {
+    silencia(espera_o_fim);
+}
+
+void trabalhando_na_horta::botao_de_tela_Click(const Trabalho& t) {
+    parte(Command2(t.botao), t.acao);
+}
+
+bool trabalhando_na_horta::mostra_marcas(const std::string& codigo) {
+    achou_canteiro = false;
+    monta_matriz3(1, codigo);
+    return achou_canteiro;
+}
+
+void trabalhando_na_horta::marca_Click(int i) {
+    marca_trato(i, st_check[i], piscadas_da_horta);
+}
+
+void trabalhando_na_horta::acabou_piscada() {
+    parabeniza(falta_plantar(), "\\anima\\parah.jpg");
+}
+
+void trabalhando_na_horta::mudou_semana() {
+    // Um canteiro que acabou, ou que só existia na previsão, perde os controles; um que volta à vida os recebe.
+    for (int i = 0; i < n_canteiros; ++i) {
+        if (st_cod_cult[i] <= cult_vago)
+            destroi_canteiro(i);
+        else if (!cant.existe(i))
+            cria_canteiro(i);
+    }
+    pl_tr(cult_vago);
+    monta_matriz(0, "");
+    btn_sem_horta();
+}
+
+void trabalhando_na_horta::cultura_sobre(const BotaoDeCultura& b, const Arraste& a) {
+    if (a.fonte->nome != b.nome || falou_nome) return;
+    fala_nome(b);
+    falou_nome = true;
+}
+
+void trabalhando_na_horta::pl_tr(std::int16_t cod_cult) {
+    if (cod_cult == cult_nenhuma) return;
+    const bool todas = cod_cult == cult_vago;
+    for (const BotaoDeCultura& b : culturas) {
+        if (!todas && b.cultura != cod_cult) continue;
+        Rotulo& r = Label3(b.k);
+        r.visivel = false;
+        r.texto = "-";
+        n_canteiros_novos[b.cultura] = 0;
+        for (int i = 0; i < n_canteiros; ++i)
+            if (st_cod_cult[i] == b.cultura && st_idade[i] < intervalo_plantio[b.cultura])
+                ++n_canteiros_novos[b.cultura];
+        const std::string celula = celula_plano(b.cultura);
+        if (celula == "-" || celula == "x") continue;
+        r.visivel = true;
+        r.texto = celula;
+        destaca(b);
+    }
+    if (auto_abastecido) return;
+    for (const BotaoDeCultura& b : culturas) destaca(b);
+}
+
+bool trabalhando_na_horta::legenda_pede_semente() {
+    for (const BotaoDeCultura& b : culturas)
+        if (ciclo_sem[b.cultura] == 0 && Label3(b.k).visivel) return true;
+    return false;
+}
+
+void trabalhando_na_horta::rotulo_Click(const BotaoDeCultura& b) {
+    const std::string nome_da_cultura = b.cultura == cult_brocolis ? "Brócolis" : nome_cult[b.cultura];
+    avisa(nome_da_cultura, (ciclo_sem[b.cultura] == 0 ? "Voce deve plantar " : "Voce deve transplantar ") +
+                               Label3(b.k).texto + " leito(s) de " + nome_da_cultura);
+}
+
+} // namespace verdalia
