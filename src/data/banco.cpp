@@ -142,6 +142,7 @@ void le_pedido() {
 }
 
 void grava_canteiros() {
+    Passo passo(area()); // as três tabelas vão para o disco juntas
     reescreve("st", [previsao = em_previsao()](Recordset& st) {
         const auto& cultura = previsao ? bak_st_cod_cult : st_cod_cult;
         const auto& idade = previsao ? bak_st_idade : st_idade;
@@ -162,6 +163,7 @@ void grava_canteiros() {
     });
     grava_leiras();
     grava_pedido();
+    passo.confirma();
 }
 
 void grava_leiras() {

@@ -20,7 +20,7 @@ std::string semana(Momento m) {
 }
 
 // Uma marca escondida pela piscada tem este texto, para que se saiba qual mostrar de novo.
-constexpr const char* escondida = ".";
+const std::string escondida = ".";
 
 } // namespace
 
@@ -95,7 +95,7 @@ void TelaDeTrabalho::cria_rotulo_de_cultura(const BotaoDeCultura& b) {
     r.borda = true;
     r.cor_fundo = {192, 192, 255};
     r.letra = {.corpo = 9, .negrito = true, .cor = {0, 0, 192}};
-    r.texto = "-";
+    r.texto = nada_a_fazer;
     r.visivel = false;
     r.dica = b.dica_do_rotulo;
     r.clique = [this, &b] { rotulo_Click(b); };

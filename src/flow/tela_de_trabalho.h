@@ -41,6 +41,7 @@ struct BotaoDeCultura {
 };
 
 inline constexpr Cor cor_cinza{192, 192, 192};
+inline const std::string nada_a_fazer = "-"; // num rótulo de cultura, sempre escondido
 
 // As animações que todas trazem na tabela: os dois tempos e as saídas pelo hortelão e pela agenda.
 inline constexpr Serie serie_tempo_real{

@@ -16,7 +16,8 @@ constexpr std::int16_t piscadas_da_horta = 19;
 }
 
 trabalhando_na_horta::trabalhando_na_horta()
-    : TelaDeTrabalho("trabalhando_na_horta", series, trabalhos, culturas, "Command2", "txt_label") {
+    : TelaDeTrabalho("trabalhando_na_horta", series, horta_tabelas::trabalhos, horta_tabelas::culturas, "Command2",
+                     "txt_label") {
     solta_no_fundo = true;
 }
 
@@ -128,13 +129,13 @@ void trabalhando_na_horta::pl_tr(std::int16_t cod_cult) {
         if (!todas && b.cultura != cod_cult) continue;
         Rotulo& r = Label3(b.k);
         r.visivel = false;
-        r.texto = "-";
+        r.texto = nada_a_fazer;
         n_canteiros_novos[b.cultura] = 0;
         for (int i = 0; i < n_canteiros; ++i)
             if (st_cod_cult[i] == b.cultura && st_idade[i] < intervalo_plantio[b.cultura])
                 ++n_canteiros_novos[b.cultura];
         const std::string celula = celula_plano(b.cultura);
-        if (celula == "-" || celula == "x") continue;
+        if (celula == nada_a_fazer || celula == "x") continue;
         r.visivel = true;
         r.texto = celula;
         destaca(b);

@@ -85,6 +85,12 @@ struct Janela : Hospedeiro {
         SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
         if (SDL_Init(SDL_INIT_VIDEO) != 0)
             throw std::runtime_error(std::string("Não há tela onde abrir o jogo (") + SDL_GetError() + ").");
+        // Sem tela, a SDL recua para modos em que ninguém vê nem clica nada.
+        const std::string modo = SDL_GetCurrentVideoDriver();
+        if (modo == "offscreen" || modo == "dummy" || modo == "evdev") {
+            SDL_Quit();
+            throw std::runtime_error("Não há tela onde abrir o jogo: ele precisa de um ambiente gráfico.");
+        }
         janela.reset(SDL_CreateWindow(titulo, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, largura_logica,
                                       altura_logica, SDL_WINDOW_RESIZABLE));
         if (!janela || SDL_GetWindowSurface(janela.get()) == nullptr)
