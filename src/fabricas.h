@@ -7,6 +7,7 @@
 #include "flow/intronew.h"
 #include "garden/trabalhando_na_horta.h"
 #include "market/feira_horta.h"
+#include "seedbed/controle_da_sementeira.h"
 
 namespace verdalia {
 
@@ -20,7 +21,7 @@ inline constexpr FabricaDeTela fabricas_do_jogo[] = {
     {TelaId::INTRONEW, nova<INTRONEW>},
     {TelaId::conf, nova<em_construcao>},
     {TelaId::feira_horta, nova<feira_horta>},
-    {TelaId::controle_da_sementeira, nova<em_construcao>},
+    {TelaId::controle_da_sementeira, nova<controle_da_sementeira>},
     {TelaId::trabalhando_na_horta, nova<trabalhando_na_horta>},
     {TelaId::age, nova<em_construcao>},
     {TelaId::help, nova<em_construcao>},

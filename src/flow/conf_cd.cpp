@@ -35,7 +35,7 @@ void Conf_cd::Form_Load() {
     Command2.clique = [this] { Command2_Click(); };
 
     nome_banco = "\\hortas00.mdb";
-    le_cd();
+    tenta_no_banco(titulo, "Confira a unidade.", le_cd);
     Combo1.itens.assign(letras_de_unidade.begin(), letras_de_unidade.end());
     Combo1.escolhido = unidade_cd;
     foco = &Command1;
@@ -59,11 +59,7 @@ void Conf_cd::Command1_Click() {
         return;
     }
     unidade_cd = static_cast<std::int16_t>(Combo1.escolhido);
-    try {
-        grava_cd();
-    } catch (const ErroBanco& erro) {
-        avisa(titulo, std::string(erro.what()) + " A unidade vale só para esta vez.");
-    }
+    tenta_no_banco(titulo, "A unidade vale só para esta vez.", grava_cd);
     descarrega(*this);
     mostra(TelaId::INTRONEW);
 }

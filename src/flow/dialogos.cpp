@@ -113,6 +113,16 @@ void mostra_quadro(const std::string& titulo, const std::string& figura) {
     mostra_modal(TelaId::ok_help);
 }
 
+bool tenta_no_banco(const std::string& titulo, const std::string& consolo, const std::function<void()>& faz) {
+    try {
+        faz();
+        return true;
+    } catch (const ErroBanco& erro) {
+        avisa(titulo, std::string(erro.what()) + " " + consolo);
+        return false;
+    }
+}
+
 void mostra_avisos_do_banco() {
     for (const std::string& aviso : std::exchange(avisos_do_banco, {})) avisa("Atenção ...", aviso);
 }

@@ -42,6 +42,8 @@ void avisa(const std::string& titulo, const std::string& mensagem);
 bool pergunta(const std::string& titulo, const std::string& mensagem);
 // Mostra `ok_help` com a figura de `dir_media`, e espera.
 void mostra_quadro(const std::string& titulo, const std::string& figura);
+// Faz algo com o banco; se não dá certo, mostra a explicação seguida de `consolo` e devolve false.
+bool tenta_no_banco(const std::string& titulo, const std::string& consolo, const std::function<void()>& faz);
 // Mostra, um por um, os avisos que o banco deixou, e os esquece.
 void mostra_avisos_do_banco();
 

@@ -35,14 +35,9 @@ void fundo::Form_Activate() {
     som_ligado = false;
     musica_ligada = false;
     primeira_carga = true;
-    try {
-        prepara_banco();
-        mostra_avisos_do_banco();
-        mostra_modal(TelaId::Conf_cd);
-    } catch (const ErroBanco& erro) {
-        avisa("Atenção ...", std::string(erro.what()) + " O jogo não pode começar sem esse arquivo.");
-        termina();
-    }
+    if (!tenta_no_banco("Atenção ...", "O jogo não pode começar sem esse arquivo.", prepara_banco)) return termina();
+    mostra_avisos_do_banco();
+    mostra_modal(TelaId::Conf_cd);
 }
 
 void fundo::pede_fechar() {

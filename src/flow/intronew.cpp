@@ -9,6 +9,7 @@
 #include "flow/saida.h"
 #include "flow/sequencias.h"
 #include "platform/base/caminhos.h"
+#include "platform/tela/laco.h"
 
 namespace verdalia {
 
@@ -136,7 +137,7 @@ void INTRONEW::Form_Load() {
     nhoca_quadro = 0;
     nhoca_esquerda = true;
     nome_banco = "\\hortas00.mdb";
-    le_cd();
+    tenta_no_banco("Atenção ...", "As figuras continuam a vir da mesma unidade.", le_cd);
     if (unidade_cd >= 0 && unidade_cd < static_cast<int>(letras_de_unidade.size()))
         dir_media = letras_de_unidade[static_cast<std::size_t>(unidade_cd)];
     saida.figura = carrega_figura(dir_media + "\\anima\\port00.bmp");
@@ -149,7 +150,9 @@ void INTRONEW::Form_Load() {
     silencia(sem_esperar);
     num_banco = 0;
     nome_banco = "\\hortas0" + std::to_string(num_banco) + ".mdb";
-    if (primeira_carga) primeira_carga_da_partida();
+    if (primeira_carga && !tenta_no_banco("Atenção ...", "A horta guardada não foi tocada; o jogo vai fechar.",
+                                          [this] { primeira_carga_da_partida(); }))
+        return termina();
     carga_4_botões();
 }
 
@@ -177,12 +180,8 @@ void INTRONEW::nova_semana() {
     const int semanas = semanas_ate(guardada, dia_de_hoje);
     if (semanas > 0 && !horta_vazia) mostra_quadro("Nova Semana", "\\anima\\novasema.jpg");
     for (int i = 0; i < semanas; ++i) passa_semana();
-    try {
-        grava_semana(dia_de_hoje);
-    } catch (const ErroBanco& erro) {
-        avisa("Nova Semana",
-              std::string(erro.what()) + " A horta está em dia nesta partida, mas ainda não foi gravada.");
-    }
+    tenta_no_banco("Nova Semana", "A horta está em dia nesta partida, mas ainda não foi gravada.",
+                   [dia_de_hoje] { grava_semana(dia_de_hoje); });
 }
 
 void INTRONEW::Form_Activate() {

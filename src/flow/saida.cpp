@@ -18,15 +18,9 @@ bool ha_pendencias() {
 // false quando não se pôde gravar: o jogo então fica aberto, com tudo na memória.
 bool grava_se_quer() {
     pergunta_gravar();
-    if (!resposta_sim) return true;
-    try {
-        grava_canteiros();
-        return true;
-    } catch (const ErroBanco& erro) {
-        avisa("Gravar alterações",
-              std::string(erro.what()) + " Nada se perdeu: o jogo continua aberto, e você pode tentar de novo.");
-        return false;
-    }
+    return !resposta_sim ||
+           tenta_no_banco("Gravar alterações", "Nada se perdeu: o jogo continua aberto, e você pode tentar de novo.",
+                          grava_canteiros);
 }
 
 } // namespace

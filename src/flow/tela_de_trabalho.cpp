@@ -19,6 +19,12 @@ std::string semana(Momento m) {
     return std::to_string(semana_do_ano(std::chrono::floor<std::chrono::days>(m)));
 }
 
+void esquenta(Rotulo& r, double corpo) {
+    r.quente = true;
+    r.letra = {.familia = Familia::legenda, .corpo = corpo, .negrito = true};
+    r.ponteiro = ponteiro_mao;
+}
+
 // Uma marca escondida pela piscada tem este texto, para que se saiba qual mostrar de novo.
 const std::string escondida = ".";
 
@@ -57,11 +63,7 @@ void TelaDeTrabalho::prepara(const char* origem, std::span<const Lugar> lugares)
     previsao.clique = [this] { previsao_Click(); };
     tempo_real.clique = [this] { tempo_real_Click(); };
     lbl_tempo.clique = [this] { lbl_tempo_Click(); };
-    for (Rotulo* r : {&lbl_tempo, &lbl_atividades}) {
-        r->quente = true;
-        r->letra = {.familia = Familia::legenda, .corpo = 11, .negrito = true};
-        r->ponteiro = ponteiro_mao;
-    }
+    esquenta(lbl_tempo, 11);
     for (CaixaTexto* c : {&tempo, &terra}) {
         c->travada = true;
         c->alinha = Alinha::centro;
@@ -164,6 +166,20 @@ void TelaDeTrabalho::vai_a_ajuda(Controle& c, const char* topico) {
     descarrega(*this);
     topico_help = topico;
     mostra(TelaId::help);
+}
+
+void TelaDeTrabalho::liga_ajuda(Rotulo& r, const char* topico, double corpo) {
+    esquenta(r, corpo);
+    r.clique = [this, &r, topico] { vai_a_ajuda(r, topico); };
+}
+
+void TelaDeTrabalho::poe_regua(Rotulo& r, std::string escrito, const Retangulo& onde) {
+    r.texto = std::move(escrito);
+    r.esquerda = onde.x;
+    r.topo = onde.y;
+    r.largura = onde.largura;
+    r.altura = onde.altura;
+    r.letra = {.familia = Familia::legenda, .corpo = 10, .negrito = true};
 }
 
 void TelaDeTrabalho::apaga_botoes() {

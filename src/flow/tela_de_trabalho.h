@@ -101,6 +101,10 @@ struct TelaDeTrabalho : Tela {
     void lbl_tempo_Click();
     // Vai para a ajuda no tópico, depois da fala.
     void vai_a_ajuda(Controle& c, const char* topico);
+    // Faz do rótulo uma palavra quente que leva ao tópico da ajuda; `corpo` em pontos.
+    void liga_ajuda(Rotulo& r, const char* topico, double corpo = 11);
+    // Um rótulo de régua, que numera colunas ou nomeia fileiras.
+    static void poe_regua(Rotulo& r, std::string escrito, const Retangulo& onde);
 
     // Os botões: todos apagados e cinza; a cor de um trato, e aceso quando `feito` é 0; as faces de repouso.
     void apaga_botoes();

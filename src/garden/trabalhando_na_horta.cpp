@@ -22,30 +22,13 @@ trabalhando_na_horta::trabalhando_na_horta()
 }
 
 void trabalhando_na_horta::cria_rotulos() {
-    const Letra letra_da_regua{.familia = Familia::legenda, .corpo = 10, .negrito = true};
     for (int i = 0; i < lado_da_horta; ++i) {
-        Rotulo& coluna = Label1.cria(i);
-        coluna.texto = std::to_string(i + 1);
-        coluna.esquerda = 200 + passo_da_horta * i;
-        coluna.topo = 144;
-        coluna.largura = passo_da_horta;
-        coluna.altura = 19;
-        Rotulo& fileira = Label2.cria(i);
-        fileira.texto = std::string(1, static_cast<char>('A' + i));
-        fileira.esquerda = 179;
-        fileira.topo = 164 + passo_da_horta * i;
-        fileira.largura = 20;
-        fileira.altura = passo_da_horta;
-        coluna.letra = fileira.letra = letra_da_regua;
+        const double passos = passo_da_horta * i;
+        poe_regua(Label1.cria(i), std::to_string(i + 1), {200 + passos, 144, passo_da_horta, 19});
+        poe_regua(Label2.cria(i), std::string(1, static_cast<char>('A' + i)), {179, 164 + passos, 20, passo_da_horta});
     }
     constexpr const char* topicos[] = {"Culturas1", "Culturas2"};
-    for (int k = 0; k < 2; ++k) {
-        Rotulo& r = lbl_verduras.cria(k);
-        r.quente = true;
-        r.ponteiro = ponteiro_mao;
-        r.letra = {.familia = Familia::legenda, .corpo = 12, .negrito = true};
-        r.clique = [this, &r, topico = topicos[k]] { vai_a_ajuda(r, topico); };
-    }
+    for (int k = 0; k < 2; ++k) liga_ajuda(lbl_verduras.cria(k), topicos[k], 12);
 }
 
 void trabalhando_na_horta::Form_Load() {
@@ -64,7 +47,7 @@ void trabalhando_na_horta::Form_Load() {
     horta.solta = [this](const Arraste& a) { horta_DragDrop(a); };
     pic_semen.figura = carrega_figura(dir_media + "\\anima\\mudas007.bmp");
     pic_semen.clique = [this] { parte(pic_semen, acao_semen); };
-    lbl_atividades.clique = [this] { vai_a_ajuda(lbl_atividades, "Atividades"); };
+    liga_ajuda(lbl_atividades, "Atividades");
     fundo = carrega_figura("\\back_ht6.jpg");
     cria_cants();
 }

@@ -72,6 +72,7 @@ constexpr int intervalo_dos_pregoes = 2500;
 void Caixote::pinta(Pintor& p, const Retangulo& r) {
     const Retangulo& v = verdura_no_caixote;
     if (figura) p.imagem(*figura, {r.x + v.x, r.y + v.y, v.largura, v.altura});
+    if (sob_o_mouse()) p.contorno(r, apertado() ? 4 : 2.5, cor_ouro);
 }
 
 void feira_horta::cria_controles() {
@@ -82,7 +83,7 @@ void feira_horta::cria_controles() {
         caixote.largura = primeiro_caixote.largura;
         caixote.altura = primeiro_caixote.altura;
         caixote.figura = carrega_figura(verduras[i].figura);
-        caixote.dica = nome_cult[verduras[i].cultura];
+        caixote.dica = nome_cult[verduras[i].cultura] + "\nO botão direito tira";
         caixote.ponteiro = ponteiro_mao;
         caixote.botao = [this, i](const Mouse& mouse) { plc_MouseUp(i, mouse.botao); };
     }
@@ -92,7 +93,7 @@ void feira_horta::cria_controles() {
         conta.topo = plc(i).topo + conta_no_caixote.y;
         conta.largura = conta_no_caixote.largura;
         conta.altura = conta_no_caixote.altura;
-        conta.letra = {.familia = Familia::legenda, .corpo = 12, .negrito = true};
+        conta.letra = {.familia = Familia::legenda, .corpo = 13, .negrito = true};
         conta.atravessa = true;
     }
     // O teclado anda primeiro pelas verduras, na ordem das prateleiras.

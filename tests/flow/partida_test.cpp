@@ -80,7 +80,7 @@ TEST_F(Centro, HortaGuardadaEnvelheceOsDomingosQuePassaram) {
         EXPECT_EQ(dia_no_disco(), hoje());
     });
     // A viagem de ida e volta não recarrega nem avança nada.
-    roteiro.confere([] { planta(5, cult_cenoura, 0); }).clica("pic_horta").espera_ms(1400).esta_em("ok");
+    roteiro.confere([] { planta(5, cult_cenoura, 0); }).clica("pic_agenda").espera_ms(1400).esta_em("ok");
     roteiro.clica("opções").esta_em("INTRONEW").confere([] { EXPECT_EQ(st_cod_cult[5], cult_cenoura); });
     joga();
 }
@@ -201,8 +201,9 @@ TEST_F(Centro, ViagensFalamAteOFimEAUltimaEscolhaVence) {
     roteiro.duracao_dos_sons = 800;
     entra().confere([] { som_ligado = true; }).clica("pic_agenda").espera_ms(500).clica("pic_feira");
     roteiro.espera_ms(1000).confere([this] { EXPECT_TRUE(roteiro.tocados.empty()); }).espera_ms(150);
-    roteiro.espera_ms(800).esta_em("ok").confere(
-        [this] { EXPECT_EQ(roteiro.tocados, (std::vector<std::string>{dir_audio + "\\vamfei.wav"})); });
+    roteiro.espera_ms(800).esta_em("feira_horta").confere([this] {
+        EXPECT_EQ(roteiro.tocados, (std::vector<std::string>{dir_audio + "\\vamfei.wav"}));
+    });
     joga();
 }
 

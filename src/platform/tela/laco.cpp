@@ -252,7 +252,7 @@ void pinta_dica(Pintor& p) {
     r.x = std::clamp(r.x, 4.0, std::max(4.0, largura_logica - r.largura - 4));
     if (r.y + r.altura > altura_logica - 4) r.y -= r.altura + 28;
     p.moldura(r, 5, 1, cor_madeira_escura, cor_papel_claro);
-    p.texto_em(c->dica, {r.x + 7, r.y + 3, r.largura - 13, r.altura - 6}, letra, Alinha::esquerda);
+    p.texto_em(c->dica, {r.x + 7, r.y + 3, r.largura - 9, r.altura - 6}, letra, Alinha::esquerda);
 }
 
 } // namespace

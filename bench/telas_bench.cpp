@@ -1,0 +1,111 @@
+// Medidas das telas, com o pintor de software e sem janela: abrir, pintar em dois tamanhos, acertar o tabuleiro cheio,
+// um tique da apresentação.
+#include "data/banco.h"
+#include "data/estado.h"
+#include "data/plano.h"
+#include "fabricas.h"
+#include "flow/saida.h"
+#include "platform/base/caminhos.h"
+#include "platform/tela/laco.h"
+
+#include <benchmark/benchmark.h>
+#include <cstdlib>
+
+namespace {
+
+using namespace verdalia;
+
+struct SemJanela : Hospedeiro {
+    explicit SemJanela(int largura, int altura)
+        : pontos(SDL_CreateRGBSurfaceWithFormat(0, largura, altura, 32, SDL_PIXELFORMAT_XRGB8888)) {
+        esquece_tamanhos();
+        hospedeiro = this;
+    }
+    bool proximo(Evento&) override { return false; }
+    bool espera(std::int64_t) override { return false; }
+    SDL_Surface* superficie() override { return pontos.get(); }
+    void apresenta() override {}
+    void mostra_ponteiro(int) override {}
+    void troca_tela_cheia() override {}
+    int toca(const std::string&) override { return 0; }
+
+    Superficie pontos;
+};
+
+void comeca() {
+    static bool pronto = false;
+    if (pronto) return;
+    pronto = true;
+    std::string pasta = (std::filesystem::temp_directory_path() / "verdalia-medidas-XXXXXX").string();
+    if (mkdtemp(pasta.data()) == nullptr) std::abort();
+    define_pastas(pasta, VERDALIA_PROGRAMA);
+    abre_fontes();
+    registra_telas(fabricas_do_jogo, sai_do_jogo);
+    carrega_tabelas();
+    prepara_banco();
+    dir_media = "C:";
+    primeira_carga = false;
+    for (int i = 0; i < n_canteiros; ++i) {
+        st_cod_cult[i] = static_cast<std::int16_t>(i % n_culturas + 1);
+        st_idade[i] = 2;
+    }
+}
+
+void pinta_tela(benchmark::State& estado, TelaId tela, int largura, int altura) {
+    comeca();
+    SemJanela janela(largura, altura);
+    mostra(tela);
+    pinta_tudo();
+    for (auto _ : estado) pinta_tudo();
+    descarrega_tudo();
+}
+BENCHMARK_CAPTURE(pinta_tela, centro_1x, TelaId::INTRONEW, 792, 592);
+BENCHMARK_CAPTURE(pinta_tela, centro_4k, TelaId::INTRONEW, 3840, 2160);
+BENCHMARK_CAPTURE(pinta_tela, horta_cheia_1x, TelaId::trabalhando_na_horta, 792, 592);
+BENCHMARK_CAPTURE(pinta_tela, horta_cheia_4k, TelaId::trabalhando_na_horta, 3840, 2160);
+
+// Da carga ao primeiro quadro pintado, e a despedida.
+void visita(benchmark::State& estado, TelaId tela) {
+    comeca();
+    SemJanela janela(792, 592);
+    for (auto _ : estado) {
+        mostra(tela);
+        pinta_tudo();
+        descarrega_tudo();
+    }
+}
+BENCHMARK_CAPTURE(visita, centro, TelaId::INTRONEW)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(visita, horta_com_100_canteiros, TelaId::trabalhando_na_horta)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(visita, feira, TelaId::feira_horta)->Unit(benchmark::kMillisecond);
+
+void monta_matriz_e_pinta(benchmark::State& estado) {
+    comeca();
+    SemJanela janela(792, 592);
+    mostra(TelaId::trabalhando_na_horta);
+    pinta_tudo();
+    auto& horta = carrega_como<trabalhando_na_horta>(TelaId::trabalhando_na_horta);
+    for (auto _ : estado) {
+        horta.monta_matriz(0, "");
+        pinta_tudo();
+    }
+    descarrega_tudo();
+}
+BENCHMARK(monta_matriz_e_pinta)->Unit(benchmark::kMillisecond);
+
+void tique_da_apresentacao(benchmark::State& estado) {
+    comeca();
+    SemJanela janela(792, 592);
+    musica_ligada = true;
+    mostra(TelaId::trabalhando_na_horta);
+    auto& horta = carrega_como<trabalhando_na_horta>(TelaId::trabalhando_na_horta);
+    for (auto _ : estado) {
+        anim_quadros = 10000;
+        horta.animacao.tique();
+        pinta_tudo();
+    }
+    musica_ligada = false;
+    descarrega_tudo();
+}
+BENCHMARK(tique_da_apresentacao)->Unit(benchmark::kMillisecond);
+
+} // namespace
