@@ -11,7 +11,7 @@ namespace verdalia {
 using namespace horta_tabelas;
 
 void trabalhando_na_horta::cria_canteiro(int i) {
-    const double esquerda = i % lado_da_horta * passo_da_horta, topo = i / lado_da_horta * passo_da_horta;
+    const int esquerda = i % lado_da_horta * passo_da_horta, topo = i / lado_da_horta * passo_da_horta;
     Figura& f = cant.cria(i);
     f.pai = &horta;
     f.esquerda = esquerda + 1;

@@ -17,7 +17,11 @@ struct Feira : PartidaNaTela {
         mostra(TelaId::feira_horta);
         laco();
     }
-    static Controle& na_tela(const char* nome, int indice = -1) { return *tela_ativa()->controle(nome, indice); }
+    static Controle& na_tela(const char* nome, int indice = -1) {
+        Controle* c = tela_ativa()->controle(nome, indice);
+        if (c == nullptr) throw std::logic_error(tela_ativa()->nome + " não tem " + nome);
+        return *c;
+    }
     static std::string total() { return na_tela("lbl_total").texto; }
     // O texto da conta; "-" quando ela não aparece.
     static std::string conta(int qt) { return na_tela("qt", qt).visivel ? na_tela("qt", qt).texto : "-"; }
@@ -100,9 +104,11 @@ TEST_F(Feira, OsOutrosBotoesTiramENuncaAbaixoDeZero) {
         EXPECT_EQ(seq_pedido[cult_alface], 0);
         EXPECT_EQ(conta(qt_alface), "-");
     });
-    roteiro.clica("plc", plc_alface).clica("plc", plc_alface).clica("plc", plc_alface, do_meio).confere([] {
-        EXPECT_EQ(total() + "|" + conta(qt_alface), "4|1 x");
+    // A etiqueta também é caixote.
+    roteiro.clica("plc", plc_alface).clica("qt", qt_alface).confere([] {
+        EXPECT_EQ(total() + "|" + conta(qt_alface), "8|2 x");
     });
+    roteiro.clica("plc", plc_alface, do_meio).confere([] { EXPECT_EQ(total() + "|" + conta(qt_alface), "4|1 x"); });
     roteiro.clica("plc", plc_alface, direito).confere([] { EXPECT_EQ(total() + "|" + conta(qt_alface), "0|-"); });
     // "0" é pedido vazio: a horta se abre sem nada a planejar, e a volta à barraca não o mostra.
     roteiro.confere([] { auto_abastecido = true; }).clica("Label2").esta_em("trabalhando_na_horta");
@@ -173,7 +179,7 @@ TEST_F(Feira, ComMusicaOPregaoEsperaATrilhaOuUmCliqueNoFundo) {
 
 TEST_F(Feira, OSorteioPassaPorTodasAsVerduras) {
     som_ligado = true;
-    roteiro.espera_ms(2500 * 600);
+    roteiro.espera_ms(std::int64_t{2500} * 600);
     abre();
     std::map<std::string, int> vezes;
     for (const std::string& clipe : roteiro.tocados) ++vezes[clipe];

@@ -9,7 +9,7 @@ namespace verdalia {
 
 namespace {
 constexpr int amostras_por_segundo = 22050;
-constexpr int bytes_por_amostra = 2;
+constexpr std::int64_t bytes_por_segundo = std::int64_t{amostras_por_segundo} * 2;
 } // namespace
 
 bool AparelhoDeSom::abre() {
@@ -48,7 +48,7 @@ int AparelhoDeSom::toca(const std::string& caminho) {
     som_ = Mix_LoadWAV(arquivo->c_str());
     if (som_ != nullptr) {
         Mix_PlayChannel(0, som_, 0);
-        return static_cast<int>(som_->alen * std::int64_t{1000} / (amostras_por_segundo * bytes_por_amostra));
+        return static_cast<int>(som_->alen * std::int64_t{1000} / bytes_por_segundo);
     }
     musica_ = Mix_LoadMUS(arquivo->c_str());
     if (musica_ == nullptr) {

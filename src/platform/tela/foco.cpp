@@ -86,7 +86,7 @@ void leva_foco(const Tecla& t) {
     if (candidatos.empty()) return;
     const auto lugar = std::find(candidatos.begin(), candidatos.end(), tela.foco);
     const int agora = lugar == candidatos.end() ? -1 : static_cast<int>(lugar - candidatos.begin());
-    int novo = agora;
+    int novo = 0;
     if (!e.foco_visivel && agora >= 0)
         novo = agora; // a primeira tecla só mostra onde o foco está
     else if (t.codigo == SDLK_TAB || agora < 0)
@@ -116,10 +116,10 @@ std::vector<Ponto> alvos_do_arraste() {
         }
     }
     if (tela.solta_no_fundo)
-        for (double y = altura_logica - 6; y > 0; y -= 12)
-            for (double x = 6; x < largura_logica; x += 12)
+        for (int y = altura_logica - 6; y > 0; y -= 12)
+            for (int x = 6; x < largura_logica; x += 12)
                 if (controle_em(x, y) == nullptr) {
-                    alvos.push_back({x, y});
+                    alvos.push_back({double(x), double(y)});
                     return alvos;
                 }
     return alvos;

@@ -24,7 +24,8 @@ Superficie le(const std::string& caminho) {
 // Desfaz a pré-multiplicação, que só serve enquanto a figura é estirada.
 void separa_alfa(SDL_Surface& s) {
     for (int y = 0; y < s.h; ++y) {
-        auto* ponto = reinterpret_cast<std::uint32_t*>(static_cast<std::uint8_t*>(s.pixels) + y * s.pitch);
+        auto* ponto =
+            reinterpret_cast<std::uint32_t*>(static_cast<std::uint8_t*>(s.pixels) + std::ptrdiff_t{y} * s.pitch);
         for (int x = 0; x < s.w; ++x, ++ponto) {
             const std::uint32_t alfa = *ponto >> 24;
             if (alfa == 0 || alfa == 255) continue;

@@ -17,7 +17,8 @@ std::uint32_t na_cor(const SDL_Surface* s, Cor c) {
 void mistura(SDL_Surface* s, int x, int y, Cor c, double cobertura) {
     const SDL_Rect& corte = s->clip_rect;
     if (x < corte.x || y < corte.y || x >= corte.x + corte.w || y >= corte.y + corte.h) return;
-    auto* ponto = reinterpret_cast<std::uint32_t*>(static_cast<std::uint8_t*>(s->pixels) + y * s->pitch) + x;
+    auto* ponto =
+        reinterpret_cast<std::uint32_t*>(static_cast<std::uint8_t*>(s->pixels) + std::ptrdiff_t{y} * s->pitch) + x;
     Cor de;
     SDL_GetRGB(*ponto, s->format, &de.r, &de.g, &de.b);
     const auto entre = [cobertura](std::uint8_t a, std::uint8_t b) {
