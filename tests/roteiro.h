@@ -150,7 +150,10 @@ struct PartidaNaTela : Partida {
         abre_fontes();
         registra_telas(fabricas_do_jogo, sai_do_jogo);
     }
-    ~PartidaNaTela() override { recomeca_laco(); }
+    ~PartidaNaTela() override {
+        recomeca_laco();
+        fecha_fontes();
+    }
 
     // Joga o roteiro do começo do programa até o fim dele.
     void joga() {
