@@ -36,16 +36,14 @@ struct Roteiro : Hospedeiro {
             if (Controle* c = acha_controle(nome, indice)) agora({mouse(Evento::move, meio(*c))});
         });
     }
-    // Leva um controle até um ponto em pixels lógicos da janela, em dois movimentos.
+    // Leva um controle, ou o que estiver num ponto, até outro ponto em pixels lógicos da janela, em dois movimentos.
     Roteiro& arrasta(const char* nome, int indice, double x, double y) {
         return passo([=, this] {
-            Controle* c = acha_controle(nome, indice);
-            if (c == nullptr) return;
-            const Ponto de = meio(*c);
-            agora({mouse(Evento::move, de), mouse(Evento::aperta, de),
-                   mouse(Evento::move, {(de.x + x) / 2, (de.y + y) / 2}), mouse(Evento::move, {x, y}),
-                   mouse(Evento::solta, {x, y})});
+            if (Controle* c = acha_controle(nome, indice)) arrasta_agora(meio(*c), {x, y});
         });
+    }
+    Roteiro& arrasta_ponto(double x1, double y1, double x2, double y2) {
+        return passo([=, this] { arrasta_agora({x1, y1}, {x2, y2}); });
     }
     Roteiro& tecla(int codigo, bool maiuscula = false) {
         return passo([=, this] {
@@ -128,6 +126,11 @@ private:
     Evento mouse(Evento::Tipo tipo, Ponto p, int botao = 1) const {
         const double escala = double(janela->w) / largura_logica;
         return {.tipo = tipo, .x = static_cast<int>(p.x * escala), .y = static_cast<int>(p.y * escala), .botao = botao};
+    }
+    void arrasta_agora(Ponto de, Ponto para) {
+        agora({mouse(Evento::move, de), mouse(Evento::aperta, de),
+               mouse(Evento::move, {(de.x + para.x) / 2, (de.y + para.y) / 2}), mouse(Evento::move, para),
+               mouse(Evento::solta, para)});
     }
     void clica_no_ponto(Ponto p, int botao) {
         agora({mouse(Evento::move, p), mouse(Evento::aperta, p, botao), mouse(Evento::solta, p, botao)});

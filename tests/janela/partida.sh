@@ -19,15 +19,17 @@ xdotool windowmove "$janela" 0 0 windowfocus "$janela"
 
 clica 124 180 # a feira
 sleep 2
-clica 64 136                  # três verduras da fileira de cima
-clica 151 136
-clica 238 136; clica 238 136; clica 238 136 3
-clica 720 490 # "Ir para a horta"
+clica 151 136                 # nabo
+clica 151 260                 # rabanete
+clica 586 384; clica 586 384  # cenoura, duas vezes
+clica 586 384 3               # e uma a menos
+clica 720 490                 # "Ir para a horta"
 sleep 2
-arrasta 255 58 220 185 # cenoura em A 1
-arrasta 176 58 640 575 # quiabo no fundo: nada
-arrasta 176 58 598 563 # quiabo em J 10
-arrasta 296 58 220 227 # beterraba em B 1
+arrasta 255 58 220 185  # cenoura em A 1
+arrasta 175 104 640 575 # nabo no fundo da tela: nada
+arrasta 175 104 598 563 # nabo em J 10
+arrasta 215 104 220 227 # rabanete em B 1: era o que faltava
+xdotool key Return sleep 0.5 # "Parabéns"
 arrasta 220 227 660 300 # e para fora
 responde s
 clica 58 52 # o hortelão volta ao centro
@@ -39,7 +41,7 @@ responde s
 xdotool key Return # "Pendências"
 espera_fim
 confere "select indice, cod_cult, idade from st order by indice" "0|9|0
-99|7|0"
-confere "select sum(seq) from seq" 3
-confere "select count(*) from seq where seq = 1" 3
+99|11|0"
+confere "select group_concat(indice || ':' || seq, ' ') from (select * from seq where seq > 0 order by indice)" \
+  "9:1 11:1 12:1"
 echo 'partida na janela: certo'
