@@ -182,7 +182,6 @@ bool aciona_atalho(Tela& tela, int codigo) {
 void trata_tecla(const Tecla& t) {
     Tela* tela = tela_ativa();
     if (tela == nullptr) return;
-    e.sujo = true;
     if (t.codigo == SDLK_F11) return hospedeiro->troca_tela_cheia();
     if (e.arrastado != nullptr) return tecla_no_arraste(t);
     Controle* foco = tela->foco != nullptr && tela->foco->interage() ? tela->foco : nullptr;

@@ -66,7 +66,6 @@ void trata_move() {
 void trata_aperto(int botao) {
     Tela* t = tela_ativa();
     if (t == nullptr || e.arrastado != nullptr) return;
-    e.sujo = true;
     e.foco_visivel = false;
     acha_sob();
     e.hora_da_dica = -1;
@@ -90,7 +89,6 @@ void trata_soltura(int botao) {
     Controle* c = e.apertado;
     e.botao = 0;
     e.apertado = nullptr;
-    e.sujo = true;
     if (c != nullptr) {
         const Retangulo r = c->lugar();
         const Mouse mouse{botao, e.x - t->origem_x() - r.x, e.y - t->origem_y() - r.y};
@@ -123,22 +121,21 @@ void trata(const Evento& ev) {
         break;
     case Evento::roda:
         if (e.sob != nullptr && e.sob->ativo) e.sob->roda(ev.botao);
-        e.sujo = true;
         break;
     case Evento::tecla:
         trata_tecla(ev.tecla_apertada);
         break;
     case Evento::texto:
         if (t != nullptr && t->foco != nullptr && t->foco->ativo) t->foco->escreve(ev.escrito);
-        e.sujo = true;
         break;
     case Evento::janela:
-        e.sujo = true;
         break;
     case Evento::fecha:
         if (t != nullptr) t->pede_fechar();
         break;
     }
+    // Um som esperado pelo tratador já pintou a tela, antes do que ele mudou depois.
+    if (ev.tipo != Evento::move) e.sujo = true;
 }
 
 // Os temporizadores que andam: os da tela inteira de cima e os dos diálogos sobre ela.

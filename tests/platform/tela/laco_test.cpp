@@ -218,6 +218,19 @@ TEST_F(Laco, SomEsperadoGuardaOsCliquesEAcabaNaHora) {
     EXPECT_EQ(roteiro.tocados, (Lista{"\\blip.wav"}));
 }
 
+TEST_F(Laco, OQueMudaDepoisDeUmSomEsperadoSePintaSemOutroEvento) {
+    roteiro.duracao_dos_sons = 50;
+    bancada.botao.clique = [this] {
+        sndPlaySoundA("\\blip.wav", espera_o_fim);
+        bancada.cor_fundo = {0, 0, 0};
+    };
+    roteiro.clica("botao").espera_ms(200).confere([this] {
+        const auto* pontos = static_cast<const std::uint32_t*>(roteiro.janela->pixels);
+        EXPECT_EQ(pontos[roteiro.janela->pitch / 4 * 590 + 5] & 0xffffff, 0U);
+    });
+    laco();
+}
+
 TEST_F(Laco, DicaPintaUmaVezDepoisDaDemora) {
     bancada.botao.dica = "Uma dica";
     int antes = 0;
