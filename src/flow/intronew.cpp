@@ -7,7 +7,7 @@
 #include "flow/dialogos.h"
 #include "flow/falas.h"
 #include "flow/saida.h"
-#include "flow/sequencias.h"
+#include "flow/series.h"
 #include "platform/base/caminhos.h"
 #include "platform/tela/laco.h"
 
@@ -53,32 +53,13 @@ constexpr Pagina paginas[] = {
 };
 constexpr int ultima_pagina = std::size(paginas) - 1;
 
-enum : std::int16_t { acao_saida = 2, acao_agenda = 15, acao_semen, acao_horta, acao_feira, acao_interroga };
+enum : std::int16_t { acao_saida = 2, acao_horta = 17, acao_feira, acao_interroga };
 
 constexpr Serie series[] = {
     {.acao = acao_saida, .controle = "saida", .antes = "\\anima\\port", .quadros = porta_abre_e_fecha},
-    {.acao = acao_agenda,
-     .controle = "pic_agenda",
-     .antes = "\\anima\\age",
-     .quadros = de_0_a_10,
-     .fala = "\\vamage.wav",
-     .destino = TelaId::age},
-    {.acao = acao_semen,
-     .controle = "pic_semen",
-     .antes = "\\anima\\mudas",
-     .algarismos = 3,
-     .quadros = de_0_a_7,
-     .fala = "\\vamsem.wav",
-     .destino = TelaId::controle_da_sementeira},
-    {.acao = acao_horta,
-     .controle = "pic_horta",
-     .antes = "\\anima\\enx",
-     .depois = "c.bmp",
-     .quadros = de_0_a_10,
-     .do_clique = 12,
-     .repouso = 0,
-     .fala = "\\vamhor.wav",
-     .destino = TelaId::trabalhando_na_horta},
+    serie_agenda,
+    serie_mudas,
+    serie_enxada(acao_horta),
     {.acao = acao_feira,
      .controle = "pic_feira",
      .antes = "\\anima\\cesta",
@@ -122,8 +103,8 @@ void INTRONEW::cria_controles() {
     Label2.letra = {.familia = Familia::legenda, .corpo = 13, .negrito = true};
 
     saida.clique = [this] { clique_quente(acao_saida, nullptr); };
-    pic_agenda.clique = [this] { clique_quente(acao_agenda, nullptr); };
-    pic_semen.clique = [this] { clique_quente(acao_semen, &pic_semen); };
+    pic_agenda.clique = [this] { clique_quente(serie_agenda.acao, nullptr); };
+    pic_semen.clique = [this] { clique_quente(serie_mudas.acao, &pic_semen); };
     pic_horta.clique = [this] { clique_quente(acao_horta, nullptr); };
     pic_feira.clique = [this] { clique_quente(acao_feira, nullptr); };
     interroga.clique = [this] { clique_quente(acao_interroga, &interroga); };

@@ -2,9 +2,8 @@
 // botões de trato com as suas marcas, a piscada que fecha um trato e os botões de cultura. Cada tela traz as suas
 // tabelas e o que muda no seu quadro.
 #pragma once
-#include "data/plano.h"
 #include "flow/animacao.h"
-#include "flow/sequencias.h"
+#include "flow/series.h"
 #include "platform/tela/botao.h"
 #include "platform/tela/caixa_texto.h"
 #include "platform/tela/figura.h"
@@ -42,23 +41,6 @@ struct BotaoDeCultura {
 
 inline constexpr Cor cor_cinza{192, 192, 192};
 inline const std::string nada_a_fazer = "-"; // num rótulo de cultura, sempre escondido
-
-// As animações que todas trazem na tabela: os dois tempos e as saídas pelo hortelão e pela agenda.
-inline constexpr Serie serie_tempo_real{
-    .acao = 0, .controle = "tempo_real", .arquivo = fig_dia_passado, .quadros = dias_para_tras};
-inline constexpr Serie serie_previsao{
-    .acao = 1, .controle = "previsao", .antes = "\\anima\\planet", .quadros = planeta_gira, .repouso = 1};
-inline constexpr Serie serie_hortelao{.acao = 14,
-                                      .controle = "hortelino",
-                                      .antes = "\\anima\\hort",
-                                      .quadros = hortelao_vai_e_volta,
-                                      .destino = TelaId::INTRONEW};
-inline constexpr Serie serie_agenda{.acao = 15,
-                                    .controle = "pic_agenda",
-                                    .antes = "\\anima\\age",
-                                    .quadros = de_0_a_10,
-                                    .fala = "\\vamage.wav",
-                                    .destino = TelaId::age};
 
 struct TelaDeTrabalho : Tela {
     TelaDeTrabalho(std::string nome, std::span<const Serie> series, std::span<const Trabalho> trabalhos,

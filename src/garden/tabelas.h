@@ -2,7 +2,6 @@
 #pragma once
 #include "data/catalogo.h"
 #include "data/plano.h"
-#include "flow/sequencias.h"
 #include "flow/tela_de_trabalho.h"
 
 namespace verdalia::horta_tabelas {
@@ -40,7 +39,7 @@ inline constexpr BotaoDeCultura culturas[] = {
 inline constexpr int botao_sementeira = 2;
 inline constexpr Cor cor_sem{255, 0, 0};
 inline constexpr Cor preto{0, 0, 0}, branco{255, 255, 255};
-enum : std::int16_t { acao_li = 8, acao_des, acao_am, acao_cop, acao_cof, acao_botao_sementeira, acao_semen = 16 };
+enum : std::int16_t { acao_li = 8, acao_des, acao_am, acao_cop, acao_cof, acao_botao_sementeira };
 
 inline constexpr Trabalho trabalhos[] = {
     {botao_sementeira, "", cor_sem, preto, "\\semenc.bmp", "\\semencpb.bmp", true, "", "", acao_botao_sementeira},
@@ -99,65 +98,16 @@ inline constexpr Trabalho trabalhos[] = {
 inline constexpr Serie series[] = {
     serie_tempo_real,
     serie_previsao,
-    {.acao = acao_li,
-     .controle = "Command2",
-     .indice = 5,
-     .antes = "\\anima\\li",
-     .quadros = capina,
-     .do_clique = 13,
-     .inicio = 7,
-     .no_passeio = true},
-    {.acao = acao_des,
-     .controle = "Command2",
-     .indice = 6,
-     .antes = "\\anima\\des",
-     .quadros = de_0_a_12,
-     .do_clique = 13,
-     .inicio = 7,
-     .no_passeio = true},
-    {.acao = acao_am,
-     .controle = "Command2",
-     .indice = 7,
-     .antes = "\\anima\\amo",
-     .quadros = de_0_a_11,
-     .do_clique = 12,
-     .inicio = 6,
-     .no_passeio = true},
-    {.acao = acao_cop,
-     .controle = "Command2",
-     .indice = 8,
-     .antes = "\\anima\\cop",
-     .quadros = de_0_a_13,
-     .do_clique = 15,
-     .inicio = 6,
-     .no_passeio = true},
-    {.acao = acao_cof,
-     .controle = "Command2",
-     .indice = 9,
-     .antes = "\\anima\\cof",
-     .quadros = de_0_a_13,
-     .do_clique = 14,
-     .inicio = 8,
-     .no_passeio = true},
-    {.acao = acao_botao_sementeira,
-     .controle = "Command2",
-     .indice = botao_sementeira,
-     .antes = "\\anima\\ssem",
-     .quadros = de_0_a_7,
-     .do_clique = 8,
-     .no_passeio = true,
-     .fala = "\\vamsem.wav",
-     .destino = TelaId::controle_da_sementeira},
+    serie_de_botao(acao_li, "Command2", 5, "\\anima\\li", capina, 13, 7),
+    serie_de_botao(acao_des, "Command2", 6, "\\anima\\des", de_0_a_12, 13, 7),
+    serie_de_botao(acao_am, "Command2", 7, "\\anima\\amo", de_0_a_11, 12, 6),
+    serie_de_botao(acao_cop, "Command2", 8, "\\anima\\cop", de_0_a_13, 15, 6),
+    serie_de_botao(acao_cof, "Command2", 9, "\\anima\\cof", de_0_a_13, 14, 8),
+    serie_de_botao(acao_botao_sementeira, "Command2", botao_sementeira, "\\anima\\ssem", de_0_a_7, 8, 1, "\\vamsem.wav",
+                   TelaId::controle_da_sementeira),
     serie_hortelao,
     serie_agenda,
-    {.acao = acao_semen,
-     .controle = "pic_semen",
-     .antes = "\\anima\\mudas",
-     .algarismos = 3,
-     .quadros = de_0_a_7,
-     .repouso = 7,
-     .fala = "\\vamsem.wav",
-     .destino = TelaId::controle_da_sementeira},
+    serie_mudas,
 };
 
 inline constexpr Lugar lugares[] = {

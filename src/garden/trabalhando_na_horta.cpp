@@ -46,7 +46,7 @@ void trabalhando_na_horta::Form_Load() {
     horta.grade = {lado_da_horta, lado_da_horta, passo_da_horta, passo_da_horta};
     horta.solta = [this](const Arraste& a) { horta_DragDrop(a); };
     pic_semen.figura = carrega_figura(dir_media + "\\anima\\mudas007.bmp");
-    pic_semen.clique = [this] { parte(pic_semen, acao_semen); };
+    pic_semen.clique = [this] { parte(pic_semen, serie_mudas.acao); };
     liga_ajuda(lbl_atividades, "Atividades");
     fundo = carrega_figura("\\back_ht6.jpg");
     cria_cants();

@@ -2,7 +2,6 @@
 #pragma once
 #include "data/catalogo.h"
 #include "data/plano.h"
-#include "flow/sequencias.h"
 #include "flow/tela_de_trabalho.h"
 
 namespace verdalia::sementeira_tabelas {
@@ -73,50 +72,14 @@ inline constexpr Trabalho trabalhos[] = {
 inline constexpr Serie series[] = {
     serie_tempo_real,
     serie_previsao,
-    {.acao = acao_li,
-     .controle = "Command4",
-     .indice = 1,
-     .antes = "\\anima\\li",
-     .quadros = capina,
-     .do_clique = 13,
-     .inicio = 7,
-     .no_passeio = true},
-    {.acao = acao_des,
-     .controle = "Command4",
-     .indice = 2,
-     .antes = "\\anima\\des",
-     .quadros = de_0_a_12,
-     .do_clique = 14,
-     .inicio = 7,
-     .no_passeio = true},
-    {.acao = acao_tra,
-     .controle = "Command4",
-     .indice = 3,
-     .antes = "\\anima\\tra",
-     .quadros = de_0_a_12,
-     .do_clique = 14,
-     .inicio = 5,
-     .no_passeio = true},
-    {.acao = acao_botao_horta,
-     .controle = "Command4",
-     .indice = botao_horta,
-     .antes = "\\anima\\enx",
-     .quadros = de_0_a_10,
-     .do_clique = 12,
-     .no_passeio = true,
-     .fala = "\\vamhor.wav",
-     .destino = TelaId::trabalhando_na_horta},
+    serie_de_botao(acao_li, "Command4", 1, "\\anima\\li", capina, 13, 7),
+    serie_de_botao(acao_des, "Command4", 2, "\\anima\\des", de_0_a_12, 14, 7),
+    serie_de_botao(acao_tra, "Command4", 3, "\\anima\\tra", de_0_a_12, 14, 5),
+    serie_de_botao(acao_botao_horta, "Command4", botao_horta, "\\anima\\enx", de_0_a_10, 12, 1, "\\vamhor.wav",
+                   TelaId::trabalhando_na_horta),
     serie_hortelao,
     serie_agenda,
-    {.acao = acao_horta,
-     .controle = "pic_horta",
-     .antes = "\\anima\\enx",
-     .depois = "c.bmp",
-     .quadros = de_0_a_10,
-     .do_clique = 12,
-     .repouso = 0,
-     .fala = "\\vamhor.wav",
-     .destino = TelaId::trabalhando_na_horta},
+    serie_enxada(acao_horta),
 };
 
 // As leiras: dois blocos de onze colunas.
