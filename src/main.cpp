@@ -5,6 +5,7 @@
 #include "platform/tela/janela.h"
 #include "platform/tela/laco.h"
 
+#include <SDL.h>
 #include <cstdio>
 #include <exception>
 #include <malloc.h>
@@ -18,9 +19,15 @@ int joga() {
     hospedeiro = janela.get();
     abre_fontes();
     registra_telas(fabricas_do_jogo, sai_do_jogo);
-    if (!trava_partida()) {
-        avisa("Verdalia", "O jogo já está aberto em outra janela.");
-        std::fprintf(stderr, "verdalia: o jogo já está aberto em outra janela\n");
+    std::string recusa;
+    try {
+        if (!trava_partida()) recusa = "O jogo já está aberto em outra janela.";
+    } catch (const std::runtime_error& erro) {
+        recusa = erro.what(); // a pasta do jogador não pode ser usada
+    }
+    if (!recusa.empty()) {
+        std::fprintf(stderr, "verdalia: %s\n", recusa.c_str());
+        avisa("Verdalia", recusa);
         return 1;
     }
     mostra(TelaId::fundo);
@@ -40,6 +47,7 @@ int main() {
     } catch (const std::exception& erro) {
         std::fprintf(stderr, "verdalia: %s\n", erro.what());
         recomeca_laco();
+        SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_ERROR, "Verdalia", erro.what(), nullptr);
     }
     fecha_fontes();
     return saiu;

@@ -52,6 +52,7 @@ inline Momento data_previsao; // igual a `data_hoje` quando não há previsão
 inline std::string nome_banco = "\\hortas00.mdb";
 inline std::int16_t num_banco = 0; // o algarismo do nome acima
 inline bool primeira_carga = true;
+inline bool data_por_gravar = false; // a semana nova envelheceu a horta e a data dela ainda não foi ao disco
 
 inline std::int16_t unidade_cd = 0; // 0 a 5, índice de `letras_de_unidade`
 inline std::string dir_media;       // "D:"

@@ -16,6 +16,12 @@ void Animacao::comeca(std::int16_t acao) {
     timer_.intervalo = intervalo_da_animacao;
 }
 
+bool Animacao::saindo() const {
+    return timer_.intervalo != 0 && std::any_of(series.begin(), series.end(), [](const Serie& s) {
+               return s.acao == anim_acao && s.destino != sem_destino;
+           });
+}
+
 void Animacao::mostra_quadro(const Serie& serie, int numero) {
     std::string n = std::to_string(numero);
     n.insert(0, static_cast<std::size_t>(std::max(0, serie.algarismos - static_cast<int>(n.size()))), '0');
@@ -46,7 +52,10 @@ void Animacao::tique() {
     for (std::size_t i = 0; i < series.size(); ++i) {
         const Serie& serie = series[i];
         if (anim_acao != serie.acao && !(passeio && serie.no_passeio)) continue;
-        if (anim_quadros <= 0) return acaba(serie);
+        if (anim_quadros <= 0) {
+            if (tela_ativa() == &tela) acaba(serie); // com um diálogo aberto, a ação espera que ele se feche
+            return;
+        }
         --anim_quadros;
         const auto total = static_cast<std::int16_t>(serie.quadros.size());
         mostra_quadro(serie, serie.quadros[static_cast<std::size_t>(contador[i] - 1)]);

@@ -45,6 +45,8 @@ struct Animacao {
 
     // Começa a série dessa ação, que tem de estar na tabela.
     void comeca(std::int16_t acao);
+    // Corre uma série que no fim leva a outra tela.
+    bool saindo() const;
     // Um tique de `timer_`.
     void tique();
 

@@ -59,7 +59,7 @@ void Conf_cd::Command1_Click() {
         return;
     }
     unidade_cd = static_cast<std::int16_t>(Combo1.escolhido);
-    tenta_no_banco(titulo, "A unidade vale só para esta vez.", grava_cd);
+    tenta_no_banco(titulo, "A unidade de antes continua valendo.", grava_cd);
     descarrega(*this);
     mostra(TelaId::INTRONEW);
 }

@@ -102,6 +102,7 @@ bool pergunta(const std::string& titulo, const std::string& mensagem) {
     resposta_sim = false; // o fim do jogo no meio da pergunta não vale por um sim
     auto& d = carrega_como<form_ok_nao>(TelaId::form_ok_nao);
     preenche(d, d.mensagem, {&d.opções(1), &d.opções(0)}, titulo);
+    d.foco = &d.opções(0); // e não o da pergunta anterior
     mostra_modal(TelaId::form_ok_nao);
     return resposta_sim;
 }

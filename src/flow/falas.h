@@ -1,4 +1,4 @@
-// O que se ouve: as falas do hortelão e os efeitos, que só tocam com "Voz do Hortelão" ligada.
+// O que se ouve: as falas do hortelão, que só tocam com "Voz do Hortelão" ligada, e os efeitos.
 #pragma once
 #include "platform/tela/som.h"
 

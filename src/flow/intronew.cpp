@@ -161,8 +161,8 @@ void INTRONEW::nova_semana() {
     const int semanas = semanas_ate(guardada, dia_de_hoje);
     if (semanas > 0 && !horta_vazia) mostra_quadro("Nova Semana", "\\anima\\novasema.jpg");
     for (int i = 0; i < semanas; ++i) passa_semana();
-    tenta_no_banco("Nova Semana", "A horta está em dia nesta partida, mas ainda não foi gravada.",
-                   [dia_de_hoje] { grava_semana(dia_de_hoje); });
+    data_por_gravar = !tenta_no_banco("Nova Semana", "A horta está em dia nesta partida, mas ainda não foi gravada.",
+                                      [dia_de_hoje] { grava_semana(dia_de_hoje); });
 }
 
 void INTRONEW::Form_Activate() {

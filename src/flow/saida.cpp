@@ -3,6 +3,7 @@
 #include "data/banco.h"
 #include "data/estado.h"
 #include "data/plano.h"
+#include "flow/calendario.h"
 #include "flow/dialogos.h"
 #include "flow/falas.h"
 #include "platform/tela/laco.h"
@@ -15,12 +16,19 @@ bool ha_pendencias() {
     return falta_plantar() || pend_canteiro() == 1 || pend_leira() == 1 || falta_semear();
 }
 
+void grava_tudo() {
+    // Sem a data, a próxima partida envelheceria a horta outra vez.
+    if (!data_por_gravar) return grava_canteiros();
+    grava_semana(std::chrono::floor<std::chrono::days>(data_hoje));
+    data_por_gravar = false;
+}
+
 // false quando não se pôde gravar: o jogo então fica aberto, com tudo na memória.
 bool grava_se_quer() {
     pergunta_gravar();
     return !resposta_sim ||
            tenta_no_banco("Gravar alterações", "Nada se perdeu: o jogo continua aberto, e você pode tentar de novo.",
-                          grava_canteiros);
+                          grava_tudo);
 }
 
 } // namespace
@@ -37,6 +45,7 @@ void sai_do_jogo() {
     }
     fala("\\s2.wav", sem_esperar);
     if (!grava_se_quer()) return;
+    volta_ao_tempo_real(); // o que está por fazer é o de hoje, e não o de uma previsão
     if (ha_pendencias()) mostra_quadro("Pendências", "\\anima\\noaca.jpg");
     termina();
 }

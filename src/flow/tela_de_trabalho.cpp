@@ -225,7 +225,7 @@ void TelaDeTrabalho::marca_trato(int i, std::int16_t& check, std::int16_t piscad
     marcas(i).texto = "ok";
     for (const auto& [indice, marca] : marcas)
         if (marca->visivel && marca->texto.empty()) return;
-    timer_.intervalo = 0;
+    if (!animacao.saindo()) timer_.intervalo = 0;
     piscadas = piscadas_da_tela;
     Timergame.intervalo = intervalo_da_piscada;
     for (const Trabalho& t : trabalhos) {

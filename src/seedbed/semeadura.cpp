@@ -48,7 +48,7 @@ void controle_da_sementeira::Image3_DragDrop(int Index, const Arraste& a) {
     if (botao == nullptr) return; // uma leira sobre outra
     efeito("\\blip.wav", espera_o_fim);
     if (Image3(Index).figura) return avisa("Ocupado ...", "Este 'lote' está ocupado");
-    poe_muda(Index, a.fonte->figura);
+    poe_muda(Index, carrega_figura(a.fonte->figura->caminho));
     ocupa_leira(*botao, Index);
     if (som_ligado) efeito("\\blip.wav", espera_o_fim);
     pl_sem(botao->cultura);

@@ -38,6 +38,7 @@ void comeca_arraste(Controle* c, bool pelo_teclado) {
     e.arrastado = c;
     e.alvo = nullptr;
     e.pelo_teclado = pelo_teclado;
+    e.figura_do_arraste = c->figura ? carrega_figura(c->figura->caminho) : nullptr;
     e.dica_a_vista = false;
     e.hora_da_dica = -1;
     move_arraste();
@@ -57,6 +58,7 @@ void desiste_do_arraste() {
     e.arrastado = nullptr;
     e.alvo = nullptr;
     e.apertado = nullptr;
+    e.figura_do_arraste.reset();
     e.sujo = true;
 }
 
@@ -82,8 +84,8 @@ void pinta_arraste(Pintor& p) {
     }
     const Controle& c = *e.arrastado;
     const Retangulo r{e.x - c.largura / 2, e.y - c.altura / 2, c.largura, c.altura};
-    if (c.figura)
-        p.imagem(*c.figura, r);
+    if (e.figura_do_arraste)
+        p.imagem(*e.figura_do_arraste, r);
     else
         p.contorno(r, 2, cor_foco);
 }

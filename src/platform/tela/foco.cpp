@@ -86,14 +86,20 @@ void leva_foco(const Tecla& t) {
     if (candidatos.empty()) return;
     const auto lugar = std::find(candidatos.begin(), candidatos.end(), tela.foco);
     const int agora = lugar == candidatos.end() ? -1 : static_cast<int>(lugar - candidatos.begin());
-    int novo = 0;
+    const bool de_onde_estava = e.foco_visivel && e.foco_x >= 0; // o controle em foco pode ter saído da tela
+    const Ponto de = agora >= 0 ? pontos[static_cast<std::size_t>(agora)] : Ponto{e.foco_x, e.foco_y};
+    int novo = -1;
     if (!e.foco_visivel && agora >= 0)
         novo = agora; // a primeira tecla só mostra onde o foco está
-    else if (t.codigo == SDLK_TAB || agora < 0)
+    else if (t.codigo != SDLK_TAB && (agora >= 0 || de_onde_estava))
+        novo = mais_perto(pontos, de, direcao(t.codigo));
+    if (novo < 0 && (t.codigo == SDLK_TAB || agora < 0))
         novo = vizinho(agora, static_cast<int>(candidatos.size()), t.maiuscula);
-    else
-        novo = mais_perto(pontos, pontos[static_cast<std::size_t>(agora)], direcao(t.codigo));
-    if (novo >= 0) poe_foco(candidatos[static_cast<std::size_t>(novo)]);
+    if (novo >= 0) {
+        poe_foco(candidatos[static_cast<std::size_t>(novo)]);
+        e.foco_x = pontos[static_cast<std::size_t>(novo)].x;
+        e.foco_y = pontos[static_cast<std::size_t>(novo)].y;
+    }
     mostra_foco();
 }
 
@@ -197,6 +203,8 @@ void trata_tecla(const Tecla& t) {
         leva_foco(t);
     else if (tela->dialogo && (t.codigo == SDLK_ESCAPE || (quadro && (enter || t.codigo == SDLK_SPACE))))
         tela->pede_fechar();
+    else if (t.codigo == SDLK_ESCAPE)
+        tela->Form_Click(); // o mesmo que o mouse no fundo da tela
     else if (foco != nullptr && (enter || t.codigo == SDLK_SPACE))
         aciona_foco(*foco, enter);
     else if (foco != nullptr && foco->botao && (mais || menos))

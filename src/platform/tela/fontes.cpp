@@ -32,6 +32,9 @@ void abre_fontes() {
     for (const auto& familia : arquivos)
         for (const char* nome : familia)
             if (!acha(nome)) throw std::runtime_error(std::string("Falta um arquivo de letras do jogo: ") + nome);
+    // Um arquivo estragado se descobre agora, e não no meio da partida.
+    for (const Familia familia : {Familia::leitura, Familia::legenda})
+        for (const bool negrito : {false, true}) fonte({.familia = familia, .negrito = negrito}, 1);
 }
 
 void esquece_tamanhos() {

@@ -20,8 +20,8 @@ struct Letra {
     Cor cor = cor_tinta;
 };
 
-// Abre a biblioteca de letras e confere que os arquivos de letras existem; lança std::runtime_error com o
-// nome do que falta.
+// Abre a biblioteca de letras e confere os arquivos de letras; lança std::runtime_error com o nome do que falta ou está
+// estragado.
 void abre_fontes();
 // Fecha tudo o que foi aberto. Pode ser chamada mais de uma vez.
 void fecha_fontes();

@@ -22,6 +22,7 @@ struct Hospedeiro {
     virtual bool proximo(Evento& e) = 0;
     // Dorme até chegar um evento ou passarem `ms` (negativo: sem limite); false quando nada mais virá.
     virtual bool espera(std::int64_t ms) = 0;
+    // Onde pintar; nula quando a janela não a tem agora, e então não se pinta.
     virtual SDL_Surface* superficie() = 0;
     virtual void apresenta() = 0;
     virtual void mostra_ponteiro(int numero) = 0;

@@ -4,6 +4,7 @@
 
 #include <SDL_image.h>
 #include <cstdio>
+#include <set>
 
 namespace verdalia {
 
@@ -13,7 +14,9 @@ Superficie le(const std::string& caminho) {
     const auto arquivo = acha(caminho);
     Superficie lida(arquivo ? IMG_Load(arquivo->c_str()) : nullptr);
     if (!lida) {
-        std::fprintf(stderr, "verdalia: figura que não pôde ser lida: %s\n", caminho.c_str());
+        static std::set<std::string> ja_ditas; // uma linha por figura, mesmo que ela se peça a cada tique
+        if (ja_ditas.insert(caminho).second)
+            std::fprintf(stderr, "verdalia: figura que não pôde ser lida: %s\n", caminho.c_str());
         return nullptr;
     }
     const bool tem_alfa = SDL_ISPIXELFORMAT_ALPHA(lida->format->format);

@@ -23,7 +23,7 @@ struct Imagem {
     Superficie original; // vazia depois de estirada
     Superficie estirada;
 
-    // A figura no tamanho pedido, em pixels da janela; nula só quando `falta`.
+    // A figura no tamanho pedido, em pixels da janela; nula quando `falta` ou quando não há o que mostrar.
     SDL_Surface* no_tamanho(int largura_px, int altura_px);
 };
 

@@ -55,6 +55,10 @@ bool traduz(const SDL_Event& s, Evento& e) {
         e = {.tipo = Evento::roda, .botao = s.wheel.y};
         return true;
     case SDL_KEYDOWN:
+        // Segurar Enter ou espaço não é apertá-los muitas vezes.
+        if (s.key.repeat != 0 &&
+            (s.key.keysym.sym == SDLK_RETURN || s.key.keysym.sym == SDLK_KP_ENTER || s.key.keysym.sym == SDLK_SPACE))
+            return false;
         e = {.tipo = Evento::tecla,
              .tecla_apertada = {s.key.keysym.sym, (s.key.keysym.mod & KMOD_SHIFT) != 0,
                                 (s.key.keysym.mod & KMOD_CTRL) != 0, (s.key.keysym.mod & KMOD_ALT) != 0}};
@@ -124,7 +128,7 @@ struct Janela : Hospedeiro {
 
     SDL_Surface* superficie() override {
         SDL_Surface* s = SDL_GetWindowSurface(janela.get());
-        if (s == nullptr) throw std::runtime_error(std::string("A janela do jogo se perdeu (") + SDL_GetError() + ").");
+        if (s == nullptr) return nullptr;
         if (s->w != largura_vista || s->h != altura_vista) esquece_tamanhos();
         largura_vista = s->w;
         altura_vista = s->h;

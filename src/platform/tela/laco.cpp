@@ -80,7 +80,7 @@ void trata_aperto(int botao) {
 }
 
 void trata_soltura(int botao) {
-    if (e.arrastado != nullptr && !e.pelo_teclado) {
+    if (e.arrastado != nullptr) {
         larga_arraste();
         return;
     }
@@ -103,8 +103,10 @@ void trata_soltura(int botao) {
 }
 
 void trata(const Evento& ev) {
-    if (ev.tipo == Evento::move || ev.tipo == Evento::aperta || ev.tipo == Evento::solta) {
-        const Pintor p(hospedeiro->superficie());
+    SDL_Surface* superficie = hospedeiro->superficie();
+    const bool do_mouse = ev.tipo == Evento::move || ev.tipo == Evento::aperta || ev.tipo == Evento::solta;
+    if (do_mouse && superficie != nullptr) {
+        const Pintor p(superficie);
         e.x = p.logico_x(ev.x);
         e.y = p.logico_y(ev.y);
     }
@@ -256,7 +258,9 @@ void pinta_dica(Pintor& p) {
 
 void pinta_tudo() {
     e.sujo = false;
-    Pintor p(hospedeiro->superficie());
+    SDL_Surface* superficie = hospedeiro->superficie();
+    if (superficie == nullptr) return;
+    Pintor p(superficie);
     p.pinta_folgas();
     const int base = base_da_pilha();
     if (base < 0) p.retangulo({0, 0, largura_logica, altura_logica}, cor_grama);
@@ -325,6 +329,7 @@ bool terminando() {
 
 void espera_som(int ms) {
     const std::int64_t ate = relogio->milissegundos() + ms;
+    acerta_ponteiro(); // a ampulheta de quem espera
     pinta_tudo();
     while (!e.fim) {
         const std::int64_t falta = ate - relogio->milissegundos();

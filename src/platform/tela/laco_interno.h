@@ -26,7 +26,9 @@ struct EstadoDoLaco {
     Controle* arrastado = nullptr;
     Controle* alvo = nullptr;
     bool pelo_teclado = false;
-    bool foco_visivel = false; // o teclado está em uso
+    ImagemRef figura_do_arraste;     // à parte da do controle: cada uma guarda o seu tamanho
+    bool foco_visivel = false;       // o teclado está em uso
+    double foco_x = -1, foco_y = -1; // onde o foco esteve por último, ainda que o controle já não exista
     std::int64_t hora_da_dica = -1;
     bool dica_a_vista = false;
     std::vector<std::unique_ptr<Tela>> telas_descartadas;

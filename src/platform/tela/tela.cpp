@@ -129,6 +129,7 @@ void mostra(TelaId id) {
     }
     desiste_do_arraste();
     estado_do_laco.sob = nullptr;
+    estado_do_laco.foco_x = -1;
     estado_do_laco.sujo = true;
     tela.Form_Activate();
     // Num diálogo, Enter responde sem que se procure o botão.
@@ -151,6 +152,9 @@ void descarrega(Tela& tela) {
     if (aqui == pilha.end()) return;
     tela.Form_Unload();
     for (Controle* c : tela.controles) esquece_controle(c);
+    // O que o jogador fez enquanto a tela falava era para ela, e não para a que vem.
+    if (!tela.dialogo)
+        std::erase_if(estado_do_laco.adiados, [](const Evento& adiado) { return adiado.tipo != Evento::fecha; });
     estado_do_laco.telas_descartadas.push_back(std::move(aqui->tela));
     pilha.erase(aqui);
     estado_do_laco.sujo = true;
