@@ -10,6 +10,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <sstream>
 #include <string>
 
 namespace verdalia {
@@ -66,6 +67,13 @@ struct Partida : testing::Test {
     Partida() {
         define_pastas(jogador, instalada);
         carrega_tabelas();
+        esvazia();
+        unidade_cd = 0;
+        avisos_do_banco.clear();
+    }
+
+    // Nenhum canteiro, nenhuma leira, nenhum pedido.
+    static void esvazia() {
         for (auto* tabela : {&st_cod_cult, &st_last_i_cu, &st_last_last_i_cu}) tabela->fill(cult_nenhuma);
         for (auto* tabela : {&st_idade, &st_check}) tabela->fill(0);
         sem_cod_cult.fill(cult_nenhuma);
@@ -73,19 +81,29 @@ struct Partida : testing::Test {
         st_nome.fill("");
         sem_nome.fill("");
         seq_pedido.fill(0);
-        unidade_cd = 0;
-        avisos_do_banco.clear();
+    }
+
+    // A horta inteira num texto só, para comparar.
+    static std::string horta() {
+        std::ostringstream texto;
+        for (int i = 0; i < n_canteiros; ++i)
+            texto << st_nome[i] << ',' << st_cod_cult[i] << ',' << st_idade[i] << ',' << st_check[i] << ','
+                  << st_last_i_cu[i] << ',' << st_last_last_i_cu[i] << ';';
+        for (int i = 0; i < n_leiras; ++i)
+            texto << sem_nome[i] << ',' << sem_cod_cult[i] << ',' << sem_idade[i] << ',' << sem_check[i] << ';';
+        for (const int v : seq_pedido) texto << v << ' ';
+        return texto.str();
     }
 
     static void planta(int canteiro, std::int16_t cultura, std::int16_t idade) {
         st_cod_cult[canteiro] = cultura;
-        st_nome[canteiro] = cultura > cult_vago ? nome_cult[cultura] : "";
+        st_nome[canteiro] = cultura >= cult_vago ? nome_cult[cultura] : "";
         st_idade[canteiro] = idade;
     }
 
     static void semeia(int leira, std::int16_t cultura, std::int16_t idade) {
         sem_cod_cult[leira] = cultura;
-        sem_nome[leira] = cultura > cult_vago ? nome_cult[cultura] : "";
+        sem_nome[leira] = cultura >= cult_vago ? nome_cult[cultura] : "";
         sem_idade[leira] = idade;
     }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "apoio.h"
+#include "data/plano.h"
 #include "fabricas.h"
 #include "flow/saida.h"
 #include "platform/tela/laco.h"
@@ -31,11 +32,6 @@ struct Roteiro : Hospedeiro {
     Roteiro& clica_em(double x, double y) {
         return passo([=, this] { clica_no_ponto({x, y}, 1); });
     }
-    Roteiro& move_para(const char* nome, int indice = -1) {
-        return passo([=, this] {
-            if (Controle* c = acha_controle(nome, indice)) agora({mouse(Evento::move, meio(*c))});
-        });
-    }
     // Leva um controle, ou o que estiver num ponto, até outro ponto em pixels lógicos da janela, em dois movimentos.
     Roteiro& arrasta(const char* nome, int indice, double x, double y) {
         return passo([=, this] {
@@ -49,6 +45,10 @@ struct Roteiro : Hospedeiro {
         return passo([=, this] {
             agora({Evento{.tipo = Evento::tecla, .tecla_apertada = {codigo, maiuscula, false, false}}});
         });
+    }
+    Roteiro& teclas(std::initializer_list<int> codigos) {
+        for (const int codigo : codigos) tecla(codigo);
+        return *this;
     }
     Roteiro& escreve(const char* letras) {
         return passo([=, this] { agora({Evento{.tipo = Evento::texto, .escrito = letras}}); });
@@ -67,6 +67,28 @@ struct Roteiro : Hospedeiro {
             EXPECT_EQ(tela_ativa()->nome, nome);
         });
     }
+
+    // O programa acaba antes deste passo.
+    Roteiro& acabou() {
+        fim_previsto = true;
+        return confere([] { FAIL() << "o jogo devia ter acabado"; });
+    }
+    // O aviso, "título|mensagem", que se fecha; a pergunta, que se responde; o quadro, que se lê.
+    Roteiro& aviso(const char* esperado) { return diz("ok", esperado).clica("opções"); }
+    Roteiro& pergunta(const char* esperada, bool sim) {
+        return diz("form_ok_nao", esperada).clica("opções", sim ? 0 : 1);
+    }
+    Roteiro& quadro(const char* titulo) {
+        return esta_em("ok_help")
+            .confere([=] {
+                EXPECT_EQ(tela_ativa()->titulo, titulo);
+                EXPECT_FALSE(tela_ativa()->fundo->falta) << titulo;
+            })
+            .tecla(SDLK_ESCAPE);
+    }
+
+    // Nenhum passo ficou por dar, senão os de depois do fim.
+    bool feito() const { return fim_previsto || passos.empty(); }
 
     bool proximo(Evento& e) override {
         while (true) {
@@ -90,7 +112,7 @@ struct Roteiro : Hospedeiro {
     }
     SDL_Surface* superficie() override { return janela.get(); }
     void apresenta() override { ++pinturas; }
-    void mostra_ponteiro(int numero) override { ponteiro = numero; }
+    void mostra_ponteiro(int) override {}
     void troca_tela_cheia() override {}
     int toca(const std::string& caminho) override {
         tocados.push_back(caminho);
@@ -99,7 +121,6 @@ struct Roteiro : Hospedeiro {
 
     std::vector<std::string> tocados;
     int duracao_dos_sons = 0;
-    int ponteiro = -1;
     int pinturas = 0;
     int esperas = 0;
     Superficie janela;
@@ -108,6 +129,9 @@ private:
     struct Ponto {
         double x, y;
     };
+    Roteiro& diz(const char* caixa, const char* esperado) {
+        return esta_em(caixa).confere([=] { EXPECT_EQ(tela_ativa()->titulo + "|" + msg_texto, esperado); });
+    }
     Roteiro& passo(std::function<void()> p) {
         passos.push_back(std::move(p));
         return *this;
@@ -140,6 +164,7 @@ private:
     std::deque<std::function<void()>> passos;
     std::deque<Evento> eventos;
     std::int64_t acorda_em = 0;
+    bool fim_previsto = false;
 };
 
 // Uma partida com as mídias construídas e o laço zerado; `roteiro` é o jogador.
@@ -154,8 +179,25 @@ struct PartidaNaTela : Partida {
         registra_telas(fabricas_do_jogo, sai_do_jogo);
     }
     ~PartidaNaTela() override {
+        EXPECT_TRUE(roteiro.feito()) << "o jogo acabou antes do roteiro";
         recomeca_laco();
         fecha_fontes();
+    }
+
+    // Uma tela só, como quem entra nela.
+    template <class T> T& entra_em(TelaId id) {
+        recomeca_laco();
+        auto_abastecido = auto_abastecimento();
+        mostra(id);
+        return carrega_como<T>(id);
+    }
+    // Quantas vezes se ouviu o clipe da voz.
+    auto falas(const char* clipe) const {
+        return std::count(roteiro.tocados.begin(), roteiro.tocados.end(), dir_audio + clipe);
+    }
+    // Só o nome do arquivo: "li06.bmp".
+    static std::string nome(const ImagemRef& figura) {
+        return figura ? figura->caminho.substr(figura->caminho.rfind('\\') + 1) : "vazia";
     }
 
     // Joga o roteiro do começo do programa até o fim dele.

@@ -1,8 +1,6 @@
 // O que acontece quando o jogador, ou o disco, faz o que não se esperava.
 #include "roteiro.h"
 
-#include "data/plano.h"
-
 #include <sqlite3.h>
 
 namespace verdalia {
@@ -26,7 +24,7 @@ TEST_F(Descuido, SemanaQueNaoSePodeGravarNaoEnvelheceDuasVezes) {
         ASSERT_EQ(sqlite3_exec(outro, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
     });
     roteiro.tecla(SDLK_ESCAPE).esta_em("ok").confere([&] { sqlite3_close(outro); }).clica("opções").esta_em("INTRONEW");
-    roteiro.clica("saida").espera_ms(1050).tecla(SDLK_s).tecla(SDLK_s).tecla(SDLK_ESCAPE);
+    roteiro.clica("saida").espera_ms(1050).teclas({SDLK_s, SDLK_s}).acabou();
     joga();
     EXPECT_EQ(le_data_semana(), hoje());
     le_canteiros();
@@ -78,9 +76,7 @@ TEST_F(Descuido, TelaQueSaiEsperaODialogoFecharENaoParaPorUmaMarca) {
 TEST_F(Descuido, PendenciasSaoAsDeHojeAindaNaPrevisao) {
     planta(0, cult_alface, 3); // nada hoje; na semana que vem, amontoa
     abre(TelaId::trabalhando_na_horta);
-    roteiro.clica("previsao").espera_ms(50).fecha_janela().tecla(SDLK_s).tecla(SDLK_s).confere([] {
-        FAIL() << "o jogo devia ter acabado sem quadro nenhum";
-    });
+    roteiro.clica("previsao").espera_ms(50).fecha_janela().tecla(SDLK_s).tecla(SDLK_s).acabou(); // sem quadro nenhum
     laco();
     le_canteiros();
     EXPECT_EQ(st_idade[0], 3);

@@ -2,37 +2,16 @@
 #pragma once
 #include "roteiro.h"
 
-#include "data/plano.h"
-
 namespace verdalia {
 
 struct Sementeira : PartidaNaTela {
     Sementeira() { prepara_banco(); }
-    // Começa de novo, como quem entra na tela.
-    controle_da_sementeira& abre() {
-        recomeca_laco();
-        auto_abastecido = auto_abastecimento();
-        mostra(TelaId::controle_da_sementeira);
-        return carrega_como<controle_da_sementeira>(TelaId::controle_da_sementeira);
-    }
+    controle_da_sementeira& abre() { return entra_em<controle_da_sementeira>(TelaId::controle_da_sementeira); }
     // Arrasta um botão de cultura até a leira.
     Roteiro& semeia_com_mouse(const char* botao, int leira) {
         return roteiro.arrasta(botao, -1, 185.5 + leira % 11 * 44, leira < 11 ? 280 : 432);
     }
     Roteiro& leva_para_fora(int leira) { return roteiro.arrasta("Image3", leira, 420, 575); }
-    Roteiro& quadro_parabens() {
-        return roteiro.esta_em("ok_help")
-            .confere([] {
-                EXPECT_EQ(tela_ativa()->titulo, "Parabéns");
-                EXPECT_FALSE(tela_ativa()->fundo->falta);
-            })
-            .tecla(SDLK_ESCAPE);
-    }
-    Roteiro& mensagem(const char* esperada) {
-        return roteiro.esta_em("ok")
-            .confere([esperada] { EXPECT_EQ(tela_ativa()->titulo + "|" + msg_texto, esperada); })
-            .clica("opções");
-    }
     // As colunas dos rótulos à vista: "0 6" quando faltam alface e tomate.
     static std::string faltam(controle_da_sementeira& s) {
         std::string lista;
@@ -40,16 +19,11 @@ struct Sementeira : PartidaNaTela {
             if (rotulo->visivel) lista += (lista.empty() ? "" : " ") + std::to_string(k);
         return lista;
     }
-    static int destacados(controle_da_sementeira& s) {
-        int n = 0;
-        for (const auto& figura : s.c_) n += figura->figura->caminho.find("\\anima\\az_") != std::string::npos;
-        return n;
+    static auto destacados(controle_da_sementeira& s) {
+        return std::count_if(s.c_.begin(), s.c_.end(), [](auto& f) { return nome(f->figura).starts_with("az_"); });
     }
     // A leira como o jogador a vê: a figura da muda e a do crescimento.
     static std::string leira(controle_da_sementeira& s, int r) {
-        const auto nome = [](const ImagemRef& f) {
-            return f ? f->caminho.substr(f->caminho.rfind('\\') + 1) : std::string("vazia");
-        };
         return nome(s.Image3(r).figura) + " " + nome(s.CRESCE(r).figura);
     }
     // As marcas das primeiras leiras: "_" escondida, "[ok]" feita, "[]" por fazer.
@@ -58,9 +32,11 @@ struct Sementeira : PartidaNaTela {
         for (int r = 0; r < quantas; ++r) t += s.Label4(r).visivel ? "[" + s.Label4(r).texto + "]" : "_";
         return t;
     }
-    // O botão: "aceso", "feito" (com cor, apagado) ou "apagado".
-    static std::string botao(controle_da_sementeira& s, int i) {
-        return s.Command4(i).ativo ? "aceso" : s.Command4(i).cor_fundo != cor_cinza ? "feito" : "apagado";
+    // Os quatro botões: "A" aceso, "f" feito (com cor, apagado), "-" apagado.
+    static std::string botoes(controle_da_sementeira& s) {
+        std::string t;
+        for (int i = 1; i <= 4; ++i) t += s.Command4(i).ativo ? 'A' : s.Command4(i).cor_fundo != cor_cinza ? 'f' : '-';
+        return t;
     }
 };
 
