@@ -163,7 +163,8 @@ TEST_F(Centro, VisitasNaoDeixamMemoriaPresa) {
             pinta_tudo();
             descarrega_tudo();
         };
-        for (int i = 0; i < 30; ++i) visita(); // enche o que as bibliotecas guardam
+        const int aquece = id == TelaId::INTRONEW ? 60 : 15; // enche o que as bibliotecas guardam
+        for (int i = 0; i < aquece; ++i) visita();
         const std::size_t antes = mallinfo2().uordblks;
         for (int i = 0; i < 20; ++i) visita();
         EXPECT_LT(mallinfo2().uordblks, antes + 4096) << static_cast<int>(id);
