@@ -240,12 +240,12 @@ TEST_F(Banco, DiscoCheioDeixaOQueHavia) {
         enche(10);
         disco.escritas = 0;
         disco.falha_em = cabem;
-        const std::string motivo = erro([] { grava_semana(dia(2026, 3, 4)); });
+        const std::string motivo = erro(grava_canteiros);
         gravou = motivo.empty();
         EXPECT_TRUE(gravou || motivo.find("disco está cheio") != std::string::npos) << motivo;
         EXPECT_EQ(horta(), nova); // a memória não se perde
         disco.falha_em = -1;
-        ASSERT_EQ(guardada(), gravou ? nova + "2026-03-04" : antes);
+        ASSERT_EQ(guardada(), gravou ? nova + "2026-03-03" : antes);
     }
     EXPECT_GT(cabem, 5);
 }

@@ -227,6 +227,16 @@ TEST_F(Horta, BotaoDaSementeiraAcendeComMudaPorTratar) {
     EXPECT_EQ(botao(), std::pair(false, true));
 }
 
+TEST_F(Horta, NomeDaCulturaSeOuveUmaVezPorArraste) {
+    som_ligado = true;
+    abre();
+    for (const int i : {0, 1}) planta_com_mouse("c_ber", i); // plantar na terra não o deixa dizer de novo
+    planta_com_mouse("c_ber", 1).clica("opções");            // ocupado deixa
+    planta_com_mouse("c_ber", 2);
+    laco();
+    EXPECT_EQ(falas("\\quiabo.wav"), 2);
+}
+
 TEST_F(Horta, SoOTecladoPlantaTrataEExclui) {
     planta(0, cult_alface, 2);
     auto& h = abre();
