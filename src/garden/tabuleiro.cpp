@@ -11,27 +11,26 @@ namespace verdalia {
 using namespace horta_tabelas;
 
 void trabalhando_na_horta::cria_canteiro(int i) {
-    const int esquerda = i % lado_da_horta * passo_da_horta, topo = i / lado_da_horta * passo_da_horta;
+    // Ficam escondidos até que uma passada os pinte.
+    const auto poe = [this, i](Controle& c, int folga, double largura_dele, double altura_dele) {
+        c.pai = &horta;
+        const int coluna = i % lado_da_horta, fileira = i / lado_da_horta;
+        c.esquerda = coluna * passo_da_horta + folga;
+        c.topo = fileira * passo_da_horta + folga;
+        c.largura = largura_dele;
+        c.altura = altura_dele;
+        c.visivel = false;
+    };
     Figura& f = cant.cria(i);
-    f.pai = &horta;
-    f.esquerda = esquerda + 1;
-    f.topo = topo + 1;
-    f.largura = 39;
-    f.altura = 40;
-    f.visivel = false;
+    poe(f, 1, 39, 40);
     f.arrasta = true;
     f.ponteiro = ponteiro_horta;
     f.dica = nome_canteiro(i);
     f.solta = [this](const Arraste& a) { cant_DragDrop(a); };
     f.clique = [this] { Form_Click(); }; // como no fundo: cala o que se ouve
     Rotulo& r = txt_label.cria(i);
-    r.pai = &horta;
-    r.esquerda = esquerda + 2;
-    r.topo = topo + 2;
-    r.largura = 37;
-    r.altura = 16;
+    poe(r, 2, 37, 16);
     r.borda = true;
-    r.visivel = false;
     r.letra = {.corpo = 9, .negrito = true};
     r.clique = [this, i] { marca_Click(i); };
 }
