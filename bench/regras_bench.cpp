@@ -2,7 +2,7 @@
 #include "data/banco.h"
 #include "data/estado.h"
 #include "data/plano.h"
-#include "flow/calendario.h"
+#include "flow/regras/calendario.h"
 #include "platform/base/caminhos.h"
 
 #include <benchmark/benchmark.h>

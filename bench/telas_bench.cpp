@@ -4,7 +4,7 @@
 #include "data/estado.h"
 #include "data/plano.h"
 #include "fabricas.h"
-#include "flow/saida.h"
+#include "flow/comum/saida.h"
 #include "platform/base/caminhos.h"
 #include "platform/tela/laco.h"
 

@@ -1,6 +1,6 @@
 // O programa: abre a janela, entrega a tabela das telas e começa pelo fundo.
 #include "fabricas.h"
-#include "flow/saida.h"
+#include "flow/comum/saida.h"
 #include "platform/base/trava.h"
 #include "platform/tela/janela.h"
 #include "platform/tela/laco.h"

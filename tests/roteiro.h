@@ -5,7 +5,7 @@
 #include "apoio.h"
 #include "data/plano.h"
 #include "fabricas.h"
-#include "flow/saida.h"
+#include "flow/comum/saida.h"
 #include "platform/tela/laco.h"
 
 #include <SDL.h>

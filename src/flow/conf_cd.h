@@ -1,6 +1,6 @@
 // "Configuração do CD": em cada partida o jogador confirma de que unidade vêm as figuras e os sons.
 #pragma once
-#include "flow/telas.h"
+#include "flow/comum/telas.h"
 #include "platform/tela/botao.h"
 #include "platform/tela/figura.h"
 #include "platform/tela/lista.h"

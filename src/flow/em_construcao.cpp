@@ -1,6 +1,6 @@
 #include "flow/em_construcao.h"
 
-#include "flow/dialogos.h"
+#include "flow/comum/dialogos.h"
 
 namespace verdalia {
 

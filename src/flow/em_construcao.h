@@ -1,6 +1,6 @@
 // O lugar das telas que ainda não existem: avisa e volta ao centro do jogo.
 #pragma once
-#include "flow/telas.h"
+#include "flow/comum/telas.h"
 
 namespace verdalia {
 

@@ -2,7 +2,7 @@
 
 #include "data/banco.h"
 #include "data/estado.h"
-#include "flow/dialogos.h"
+#include "flow/comum/dialogos.h"
 #include "platform/tela/laco.h"
 
 namespace verdalia {

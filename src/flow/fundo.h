@@ -1,6 +1,6 @@
 // O fundo: a primeira tela do programa, lisa, que fica por trás de tudo e abre a pergunta da unidade.
 #pragma once
-#include "flow/telas.h"
+#include "flow/comum/telas.h"
 #include "platform/tela/figura.h"
 #include "platform/tela/matriz.h"
 #include "platform/tela/rotulo.h"

@@ -1,7 +1,7 @@
 // O centro do jogo: a porta da saída, os caminhos para as outras telas e o guia em figuras. A primeira carga traz a
 // horta do banco e a põe em dia com o calendário.
 #pragma once
-#include "flow/animacao.h"
+#include "flow/comum/animacao.h"
 #include "platform/tela/figura.h"
 #include "platform/tela/matriz.h"
 #include "platform/tela/rotulo.h"

@@ -1,8 +1,8 @@
 // O plantio: o que acontece quando algo arrastado cai na horta, e a regra de rotação.
 #include "data/estado.h"
 #include "data/plano.h"
-#include "flow/dialogos.h"
-#include "flow/falas.h"
+#include "flow/comum/dialogos.h"
+#include "flow/comum/falas.h"
 #include "garden/tabelas.h"
 #include "garden/tabuleiro.h"
 #include "garden/trabalhando_na_horta.h"

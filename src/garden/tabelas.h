@@ -2,7 +2,7 @@
 #pragma once
 #include "data/catalogo.h"
 #include "data/plano.h"
-#include "flow/tela_de_trabalho.h"
+#include "flow/comum/tela_de_trabalho.h"
 
 namespace verdalia::horta_tabelas {
 

@@ -2,8 +2,8 @@
 
 #include "data/estado.h"
 #include "data/plano.h"
-#include "flow/dialogos.h"
-#include "flow/falas.h"
+#include "flow/comum/dialogos.h"
+#include "flow/comum/falas.h"
 #include "garden/tabelas.h"
 #include "garden/tabuleiro.h"
 

@@ -1,7 +1,7 @@
 // A horta da família vista de cima: um tabuleiro de 10 por 10 canteiros, onde se planta arrastando, se fazem os
 // tratos da semana e se olha o que vem pela frente. O tabuleiro mostra o estado, não o guarda.
 #pragma once
-#include "flow/tela_de_trabalho.h"
+#include "flow/comum/tela_de_trabalho.h"
 
 namespace verdalia {
 

@@ -1,9 +1,9 @@
 #include "market/feira_horta.h"
 
 #include "data/estado.h"
-#include "flow/dialogos.h"
-#include "flow/falas.h"
-#include "flow/saida.h"
+#include "flow/comum/dialogos.h"
+#include "flow/comum/falas.h"
+#include "flow/comum/saida.h"
 #include "platform/base/relogio.h"
 #include "platform/base/texto.h"
 

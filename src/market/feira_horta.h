@@ -1,7 +1,7 @@
 // A barraca da feira: o jogador diz quantas unidades de cada verdura a família quer por semana, e vê quantos leitos
 // de plantio o pedido ocupa. O feirante apregoa verduras ao acaso. Daqui só se sai para a horta ou do jogo.
 #pragma once
-#include "flow/telas.h"
+#include "flow/comum/telas.h"
 #include "platform/tela/figura.h"
 #include "platform/tela/matriz.h"
 #include "platform/tela/rotulo.h"

@@ -1,9 +1,9 @@
 #include "seedbed/controle_da_sementeira.h"
 
 #include "data/estado.h"
-#include "flow/calendario.h"
-#include "flow/dialogos.h"
-#include "flow/falas.h"
+#include "flow/comum/dialogos.h"
+#include "flow/comum/falas.h"
+#include "flow/regras/calendario.h"
 #include "seedbed/tabelas.h"
 
 namespace verdalia {

@@ -1,7 +1,7 @@
 // A sementeira: 22 leiras onde treze culturas são semeadas, por arraste, antes de ir para a horta. A tela diz o que
 // semear nesta semana e que leiras pedem limpeza, desbaste ou transplante. Mostra o estado, não o guarda.
 #pragma once
-#include "flow/tela_de_trabalho.h"
+#include "flow/comum/tela_de_trabalho.h"
 
 namespace verdalia {
 

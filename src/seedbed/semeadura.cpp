@@ -1,8 +1,8 @@
 // A semeadura: o que falta semear, e o que acontece quando algo arrastado cai na sementeira.
 #include "data/estado.h"
 #include "data/plano.h"
-#include "flow/dialogos.h"
-#include "flow/falas.h"
+#include "flow/comum/dialogos.h"
+#include "flow/comum/falas.h"
 #include "seedbed/controle_da_sementeira.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "data/banco.h"
 
 #include "apoio.h"
-#include "flow/calendario.h"
+#include "flow/regras/calendario.h"
 #include "platform/base/disco_de_teste.h"
 
 #include <sqlite3.h>

@@ -1,4 +1,4 @@
-#include "flow/falas.h"
+#include "flow/comum/falas.h"
 
 #include "data/estado.h"
 

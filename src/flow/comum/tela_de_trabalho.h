@@ -2,8 +2,8 @@
 // botões de trato com as suas marcas, a piscada que fecha um trato e os botões de cultura. Cada tela traz as suas
 // tabelas e o que muda no seu quadro.
 #pragma once
-#include "flow/animacao.h"
-#include "flow/series.h"
+#include "flow/comum/animacao.h"
+#include "flow/comum/series.h"
 #include "platform/tela/botao.h"
 #include "platform/tela/caixa_texto.h"
 #include "platform/tela/figura.h"

@@ -1,7 +1,7 @@
-#include "flow/animacao.h"
+#include "flow/comum/animacao.h"
 
 #include "data/estado.h"
-#include "flow/falas.h"
+#include "flow/comum/falas.h"
 #include "platform/tela/botao.h"
 
 #include <algorithm>

@@ -1,11 +1,11 @@
-#include "flow/saida.h"
+#include "flow/comum/saida.h"
 
 #include "data/banco.h"
 #include "data/estado.h"
 #include "data/plano.h"
-#include "flow/calendario.h"
-#include "flow/dialogos.h"
-#include "flow/falas.h"
+#include "flow/comum/dialogos.h"
+#include "flow/comum/falas.h"
+#include "flow/regras/calendario.h"
 #include "platform/tela/laco.h"
 
 namespace verdalia {

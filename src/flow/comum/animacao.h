@@ -1,7 +1,7 @@
 // As animações das telas: séries de quadros numerados, lidos do disco a cada tique de 100 ms. Uma figura quente não
 // age no clique: o clique escolhe a série, e a ação vem quando os quadros acabam. Cada tela traz a sua tabela.
 #pragma once
-#include "flow/telas.h"
+#include "flow/comum/telas.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,7 +1,7 @@
 // As sequências de quadros, e as séries que mais de uma tela mostra.
 #pragma once
 #include "data/plano.h"
-#include "flow/animacao.h"
+#include "flow/comum/animacao.h"
 
 namespace verdalia {
 

@@ -1,4 +1,4 @@
-#include "flow/dialogos.h"
+#include "flow/comum/dialogos.h"
 
 #include "data/banco.h"
 #include "data/estado.h"

@@ -1,9 +1,9 @@
-#include "flow/tela_de_trabalho.h"
+#include "flow/comum/tela_de_trabalho.h"
 
 #include "data/estado.h"
-#include "flow/calendario.h"
-#include "flow/dialogos.h"
-#include "flow/falas.h"
+#include "flow/comum/dialogos.h"
+#include "flow/comum/falas.h"
+#include "flow/regras/calendario.h"
 
 #include <algorithm>
 

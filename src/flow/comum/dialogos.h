@@ -1,6 +1,6 @@
 // Os três diálogos que levam toda mensagem do jogo. Quem chama é dono do som que vai com a mensagem.
 #pragma once
-#include "flow/telas.h"
+#include "flow/comum/telas.h"
 #include "platform/tela/botao.h"
 #include "platform/tela/figura.h"
 #include "platform/tela/matriz.h"

@@ -1,4 +1,4 @@
-#include "flow/calendario.h"
+#include "flow/regras/calendario.h"
 
 #include "data/estado.h"
 
