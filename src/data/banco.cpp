@@ -1,19 +1,19 @@
 #include "data/banco.h"
 
+#include "data/banco_interno.h"
 #include "data/estado.h"
+#include "flow/regras/calendario.h"
 
 #include <algorithm>
 #include <bitset>
 
 namespace verdalia {
 
+namespace fs = std::filesystem;
+
 namespace {
 
-Workspace& area() {
-    return DBEngine.Workspaces(0);
-}
-
-void avisa(const std::string& frase) {
+void anota(const std::string& frase) {
     if (std::find(avisos_do_banco.begin(), avisos_do_banco.end(), frase) == avisos_do_banco.end())
         avisos_do_banco.push_back(frase);
 }
@@ -30,35 +30,54 @@ std::optional<std::int16_t> valor(Recordset& registros, const char* campo, int m
     return static_cast<std::int16_t>(*numero);
 }
 
-// Uma cultura que já terminou: nulo é o mesmo que nenhuma.
-std::optional<std::int16_t> lembranca(Recordset& registros, const char* campo) {
+void estranha() {
+    const fs::path arquivo = arquivo_do_banco(nome_banco);
+    if (copia_por_fazer.empty()) copia_por_fazer = nome_de_lado(arquivo).filename().string();
+    anota("Alguns registros da horta guardada não faziam sentido e ficaram de fora. O resto foi lido. O arquivo como "
+          "estava será guardado como \"" +
+          copia_por_fazer + "\".");
+}
+
+// Uma cultura que já terminou; o que não se entende é como nenhuma, e não custa o canteiro.
+std::int16_t lembranca(Recordset& registros, const char* campo) {
     if (registros.Fields(campo).nulo()) return cult_nenhuma;
     const auto cultura = valor(registros, campo, cult_nenhuma, n_culturas);
-    return cultura == cult_vago ? std::nullopt : cultura;
+    if (cultura && *cultura != cult_vago) return *cultura;
+    estranha();
+    return cult_nenhuma;
 }
 
 // Entrega cada registro da tabela a `entra`, que diz se o aceitou.
 template <typename Entra> void percorre(const char* tabela, Entra entra) {
-    Database banco = area().OpenDatabase(nome_banco);
+    Database banco = area_do_banco().OpenDatabase(nome_banco);
     Recordset registros = banco.OpenRecordset(tabela);
     bool saltou = false;
     int lidos = 0;
     for (; !registros.EOF() && lidos < maximo_de_registros; registros.MoveNext(), ++lidos)
         if (!entra(registros)) saltou = true;
-    if (saltou || !registros.EOF())
-        avisa("Alguns registros da horta guardada não faziam sentido e ficaram de fora. O resto foi lido.");
+    if (saltou || !registros.EOF()) estranha();
 }
 
 // ---- Gravação
 
-bool em_previsao() {
-    return data_previsao != data_hoje;
+void copia_o_que_estava() {
+    if (copia_por_fazer.empty()) return;
+    const fs::path arquivo = arquivo_do_banco(nome_banco), copia = arquivo.parent_path() / copia_por_fazer;
+    const fs::path pela_metade = fs::path(copia) += ".novo";
+    std::error_code erro;
+    fs::copy_file(arquivo, pela_metade, fs::copy_options::overwrite_existing, erro);
+    if (!erro) fs::rename(pela_metade, copia, erro);
+    if (erro)
+        throw ErroBanco(0, "O arquivo da horta não pôde ser copiado antes da gravação (" + erro.message() +
+                               "). Veja se há espaço no disco.");
+    copia_por_fazer.clear();
 }
 
 // Esvazia a tabela e deixa `escreve` enchê-la de novo, numa transação.
 template <typename Escreve> void reescreve(const std::string& tabela, Escreve escreve) {
-    Database banco = area().OpenDatabase(nome_banco);
-    Passo passo(area());
+    copia_o_que_estava();
+    Database banco = area_do_banco().OpenDatabase(nome_banco);
+    Passo passo(area_do_banco());
     banco.executa("DELETE FROM " + tabela);
     Recordset registros = banco.OpenRecordset(tabela);
     escreve(registros);
@@ -84,16 +103,14 @@ bool le_canteiros() {
         if (!i || !c || visto[*i]) return false;
         const auto idade = valor(st, "idade", 0, std::max(0, ciclo_horta[*c] - 1));
         const auto check = valor(st, "check", -1, 0);
-        const auto ultima = lembranca(st, "last_i_cu");
-        const auto penultima = lembranca(st, "last_last_i_cu");
-        if (!idade || !check || !ultima || !penultima) return false;
+        if (!idade || !check) return false;
         visto.set(*i);
         st_cod_cult[*i] = *c;
         st_nome[*i] = nome_cult[*c];
         st_idade[*i] = *idade;
         st_check[*i] = *check;
-        st_last_i_cu[*i] = *ultima;
-        st_last_last_i_cu[*i] = *penultima;
+        st_last_i_cu[*i] = lembranca(st, "last_i_cu");
+        st_last_last_i_cu[*i] = lembranca(st, "last_last_i_cu");
         plantada = plantada || *c > cult_vago;
         return true;
     });
@@ -142,8 +159,8 @@ void le_pedido() {
 }
 
 void grava_canteiros() {
-    Passo passo(area()); // as três tabelas vão para o disco juntas
-    reescreve("st", [previsao = em_previsao()](Recordset& st) {
+    Passo passo(area_do_banco()); // as três tabelas vão para o disco juntas
+    reescreve("st", [previsao = previsao_ligada()](Recordset& st) {
         const auto& cultura = previsao ? bak_st_cod_cult : st_cod_cult;
         const auto& idade = previsao ? bak_st_idade : st_idade;
         const auto& check = previsao ? bak_st_check : st_check;
@@ -167,7 +184,7 @@ void grava_canteiros() {
 }
 
 void grava_leiras() {
-    reescreve("sem", [previsao = em_previsao()](Recordset& sem) {
+    reescreve("sem", [previsao = previsao_ligada()](Recordset& sem) {
         const auto& cultura = previsao ? bak_sem_cod_cult : sem_cod_cult;
         const auto& idade = previsao ? bak_sem_idade : sem_idade;
         const auto& check = previsao ? bak_sem_check : sem_check;
@@ -195,13 +212,13 @@ void grava_pedido() {
 }
 
 void le_cd() {
-    Database banco = area().OpenDatabase(nome_banco);
+    Database banco = area_do_banco().OpenDatabase(nome_banco);
     Recordset semana = banco.OpenRecordset("semana");
     if (!semana.EOF()) unidade_cd = valor(semana, "cd", 0, 5).value_or(unidade_cd);
 }
 
 void grava_cd() {
-    Database banco = area().OpenDatabase(nome_banco);
+    Database banco = area_do_banco().OpenDatabase(nome_banco);
     Recordset semana = banco.OpenRecordset("semana");
     semana.Edit();
     semana.Fields("cd") = unidade_cd;
@@ -209,16 +226,16 @@ void grava_cd() {
 }
 
 Dia le_data_semana() {
-    Database banco = area().OpenDatabase(nome_banco);
+    Database banco = area_do_banco().OpenDatabase(nome_banco);
     Recordset semana = banco.OpenRecordset("semana");
     if (semana.EOF()) return hoje();
     return dia_de_iso(semana.Fields("data").texto()).value_or(hoje());
 }
 
 void grava_semana(Dia dia) {
-    Passo passo(area());
+    Passo passo(area_do_banco());
     grava_canteiros();
-    Database banco = area().OpenDatabase(nome_banco);
+    Database banco = area_do_banco().OpenDatabase(nome_banco);
     Recordset semana = banco.OpenRecordset("semana");
     semana.Edit();
     semana.Fields("data") = texto_iso(dia);

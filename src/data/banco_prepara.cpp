@@ -1,6 +1,7 @@
 // A vida do arquivo do banco antes da primeira leitura: criar, conferir, pôr de lado.
 #include "data/banco.h"
 
+#include "data/banco_interno.h"
 #include "data/estado.h"
 
 #include <algorithm>
@@ -34,10 +35,6 @@ std::vector<Tabela> tabelas_do_banco() {
     };
 }
 
-Workspace& area() {
-    return DBEngine.Workspaces(0);
-}
-
 [[noreturn]] void falha_do_disco(const fs::path& arquivo, const std::error_code& erro) {
     throw ErroBanco(0, "O arquivo \"" + arquivo.string() + "\" não pôde ser preparado (" + erro.message() +
                            "). Veja o disco e as permissões da pasta.");
@@ -68,16 +65,9 @@ void muda_nome(const fs::path& de, const fs::path& para) {
     if (erro) falha_do_disco(de, erro);
 }
 
-// Dá ao banco um nome com a data de hoje, que ainda não exista, e o devolve.
+// Dá ao banco o nome de lado, e o devolve.
 std::string poe_de_lado(const fs::path& arquivo) {
-    const std::string raiz = arquivo.stem().string() + " " + texto_iso(hoje());
-    fs::path destino;
-    int vez = 1;
-    do {
-        const std::string numero = vez == 1 ? "" : " (" + std::to_string(vez) + ")";
-        destino = arquivo.parent_path() / (raiz + numero + arquivo.extension().string());
-        ++vez;
-    } while (existe_algum(destino));
+    const fs::path destino = nome_de_lado(arquivo);
     for (const char* sufixo : companheiros)
         if (existe(com(arquivo, sufixo))) muda_nome(com(arquivo, sufixo), com(destino, sufixo));
     return destino.filename().string();
@@ -112,8 +102,8 @@ std::string cria_banco(const fs::path& arquivo) {
     std::error_code erro;
     for (const char* sufixo : companheiros) fs::remove(com(novo, sufixo), erro);
     {
-        Database banco = area().CreateDatabase(caminho_novo);
-        Passo passo(area());
+        Database banco = area_do_banco().CreateDatabase(caminho_novo);
+        Passo passo(area_do_banco());
         banco.executa("PRAGMA application_id = " + std::to_string(formato));
         banco.executa("PRAGMA user_version = " + std::to_string(versao));
         cria_tabelas(banco);
@@ -141,13 +131,14 @@ constexpr const char* danificado = "está danificado";
 // Por que o arquivo não serve; "" quando serve.
 std::string defeito() {
     try {
-        Database banco = area().OpenDatabase(nome_banco);
+        Database banco = area_do_banco().OpenDatabase(nome_banco);
         const std::int64_t marca = banco.numero("PRAGMA application_id");
         if (banco.numero("PRAGMA page_count") == 0) return danificado;
         if (marca != formato) return "não é deste jogo";
         if (banco.numero("PRAGMA user_version") > versao) return "é de uma versão mais nova do jogo";
         if (banco.texto("PRAGMA quick_check(1)") != "ok" || !tem_as_tabelas(banco)) return danificado;
-        const Passo prova(area()); // um arquivo que só se pode ler, ou que outro programa está gravando, falha aqui
+        const Passo prova(
+            area_do_banco()); // um arquivo que só se pode ler, ou que outro programa está gravando, falha aqui
         return "";
     } catch (const ErroBanco& erro) {
         if (erro.danificado()) return danificado;
@@ -157,7 +148,7 @@ std::string defeito() {
 
 // O registro da semana tem de existir e fazer sentido: dele dependem a data e a unidade das mídias.
 void completa_semana() {
-    Database banco = area().OpenDatabase(nome_banco);
+    Database banco = area_do_banco().OpenDatabase(nome_banco);
     Recordset semana = banco.OpenRecordset("semana");
     const bool falta = semana.EOF();
     const bool data_ruim = falta || !dia_de_iso(semana.Fields("data").texto());
@@ -175,7 +166,17 @@ void completa_semana() {
 
 } // namespace
 
+fs::path nome_de_lado(const fs::path& arquivo) {
+    const std::string raiz = arquivo.stem().string() + " " + texto_iso(hoje());
+    for (int vez = 1;; ++vez) {
+        const std::string numero = vez == 1 ? "" : " (" + std::to_string(vez) + ")";
+        const fs::path destino = arquivo.parent_path() / (raiz + numero + arquivo.extension().string());
+        if (!existe_algum(destino)) return destino;
+    }
+}
+
 void prepara_banco() {
+    copia_por_fazer.clear();
     const fs::path arquivo = arquivo_do_banco(nome_banco);
     if (!existe(arquivo)) {
         cria_banco(arquivo);

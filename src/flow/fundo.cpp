@@ -21,10 +21,7 @@ void fundo::Form_Load() {
     for (int i = 0; i < static_cast<int>(std::size(verduras)); ++i) {
         Figura& f = verdura.cria(i);
         f.figura = carrega_figura(std::string("\\recursos\\feira_") + verduras[i] + ".bmp");
-        f.esquerda = 60 + 100 * i;
-        f.topo = 484;
-        f.largura = 72;
-        f.altura = 74;
+        f.fica_em({60.0 + 100 * i, 484, 72, 74});
     }
     lema.letra = {.familia = Familia::legenda, .corpo = 14, .cor = cor_tinta_clara};
 }

@@ -15,6 +15,7 @@ namespace verdalia {
 
 namespace {
 
+// clang-format off
 constexpr Lugar lugares[] = {
     {"saida", -1, 74, 14, 100, 120, "", "Sair do Programa"},
     {"pic_feira", -1, 84, 150, 80, 62, "", "Ir para a tela da Feira - Auto abastecimento"},
@@ -29,7 +30,11 @@ constexpr Lugar lugares[] = {
     {"legenda", 1, 54, 301, 140, 26, "Horta"},
     {"legenda", 2, 54, 391, 140, 26, "Sementeira"},
     {"legenda", 3, 54, 479, 140, 26, "Agenda"},
+    {"legenda", 4, 172, 100, 50, 26, "Sair"},
 };
+
+// O que se lê primeiro: os caminhos, o guia.
+constexpr Retangulo partes[] = {{0, 0, 240, 592}, {240, 0, 552, 592}};
 
 // As palavras quentes do guia: o título do quadro e a figura que ele mostra.
 struct Pagina {
@@ -56,19 +61,14 @@ constexpr int ultima_pagina = std::size(paginas) - 1;
 enum : std::int16_t { acao_saida = 2, acao_horta = 17, acao_feira, acao_interroga };
 
 constexpr Serie series[] = {
-    {.acao = acao_saida, .controle = "saida", .antes = "\\anima\\port", .quadros = porta_abre_e_fecha},
+    {.acao = acao_saida, .controle = "saida", .quadros = {"\\anima\\port", porta_abre_e_fecha}},
     serie_agenda,
     serie_mudas,
     serie_enxada(acao_horta),
-    {.acao = acao_feira,
-     .controle = "pic_feira",
-     .antes = "\\anima\\cesta",
-     .algarismos = 1,
-     .quadros = de_0_a_9,
-     .fala = "\\vamfei.wav",
-     .destino = TelaId::feira_horta},
-    {.acao = acao_interroga, .controle = "interroga", .antes = "\\anima\\int", .quadros = de_5_a_0},
+    {.acao = acao_feira, .controle = "pic_feira", .quadros = {"\\anima\\cesta", de_0_a_9, 1}, .viagem = {"\\vamfei.wav", TelaId::feira_horta}},
+    {.acao = acao_interroga, .controle = "interroga", .quadros = {"\\anima\\int", de_5_a_0}},
 };
+// clang-format on
 
 constexpr int intervalo_da_minhoca = 100;
 constexpr double passo_da_minhoca = 50 * twip;
@@ -77,39 +77,54 @@ constexpr double minhoca_vai_em = 10200 * twip;
 
 } // namespace
 
-INTRONEW::INTRONEW() : Tela("INTRONEW"), animacao{*this, timer_, series, [this](int acao) { fim_da_animacao(acao); }} {}
+INTRONEW::INTRONEW() : Tela("INTRONEW"), animacao{*this, timer_, series, [this](int acao) { fim_da_animacao(acao); }} {
+    paineis.assign(std::begin(partes), std::end(partes));
+}
 
-void INTRONEW::cria_controles() {
+void INTRONEW::cria_guia() {
     for (int i = 0; i <= ultima_pagina; ++i) {
+        // Três quadros por fileira, e o último embaixo, ao lado do hortelão.
+        const bool ultimo = i == ultima_pagina;
+        const double esquerda = 266 + 166 * (i % 3), topo = 62 + 97 * (i / 3);
+        Figura& figura = quadro.cria(i);
+        figura.fica_em(ultimo ? Retangulo{266, 452, 492, 56} : Retangulo{esquerda, topo, 160, 92});
+        figura.so_do_mouse = true;
         Rotulo& palavra = Label1.cria(i);
+        palavra.fica_em(ultimo ? Retangulo{372, 466, 376, 30} : Retangulo{esquerda + 4, topo + 68, 152, 22});
         palavra.quente = true;
         palavra.letra = {.familia = Familia::legenda, .corpo = 10.5, .negrito = true};
         palavra.texto = paginas[i].titulo;
-        palavra.ponteiro = ponteiro_mao;
-        palavra.clique = [this, i] { Label1_Click(i); };
-        // As placas do guia: três por fileira, e a última embaixo, ao lado do hortelão.
-        palavra.esquerda = i < ultima_pagina ? 270 + 166 * (i % 3) : 372;
-        palavra.topo = i < ultima_pagina ? 130 + 97 * std::floor(i / 3) : 466;
-        palavra.largura = i < ultima_pagina ? 152 : 376;
-        palavra.altura = i < ultima_pagina ? 22 : 30;
+        for (Controle* c : {static_cast<Controle*>(&figura), static_cast<Controle*>(&palavra)}) {
+            c->ponteiro = ponteiro_mao;
+            c->clique = [this, i] { Label1_Click(i); };
+        }
     }
-    for (int i = 0; i < 4; ++i) {
-        legenda.cria(i).letra = {.familia = Familia::legenda, .corpo = 11, .negrito = true};
-        legenda(i).atravessa = true;
-    }
+}
+
+void INTRONEW::cria_controles() {
+    cria_guia();
+    for (int i = 0; i < 5; ++i) legenda.cria(i).letra = {.familia = Familia::legenda, .corpo = 11, .negrito = true};
     arruma(*this, lugares);
     pic_nhoca.atravessa = true;
     Label2.quente = true;
     Label2.letra = {.familia = Familia::legenda, .corpo = 13, .negrito = true};
 
-    saida.clique = [this] { clique_quente(acao_saida, nullptr); };
-    pic_agenda.clique = [this] { clique_quente(serie_agenda.acao, nullptr); };
-    pic_semen.clique = [this] { clique_quente(serie_mudas.acao, &pic_semen); };
-    pic_horta.clique = [this] { clique_quente(acao_horta, nullptr); };
-    pic_feira.clique = [this] { clique_quente(acao_feira, nullptr); };
-    interroga.clique = [this] { clique_quente(acao_interroga, &interroga); };
+    pic_feira.clique = [this] { pic_feira_Click(); };
+    pic_horta.clique = [this] { pic_horta_Click(); };
+    pic_semen.clique = [this] { pic_semen_Click(); };
+    pic_agenda.clique = [this] { pic_agenda_Click(); };
+    saida.clique = [this] { saida_Click(); };
+    interroga.clique = [this] { interroga_Click(); };
     Label2.clique = [this] { Label2_Click(); };
-    timer_.dispara = [this] { animacao.tique(); };
+    // A palavra embaixo de cada figura faz o mesmo que ela.
+    Figura* const figuras[] = {&pic_feira, &pic_horta, &pic_semen, &pic_agenda, &saida};
+    for (int i = 0; i < 5; ++i) {
+        legenda(i).clique = figuras[i]->clique;
+        legenda(i).dica = figuras[i]->dica;
+        legenda(i).so_do_mouse = true;
+        legenda(i).ponteiro = figuras[i]->ponteiro = ponteiro_mao;
+    }
+    timer_.dispara = [this] { Timer__Timer(); };
     Timer1.dispara = [this] { Timer1_Timer(); };
 }
 
@@ -157,6 +172,10 @@ void INTRONEW::primeira_carga_da_partida() {
 void INTRONEW::nova_semana() {
     const Dia guardada = le_data_semana();
     const Dia dia_de_hoje = hoje();
+    if (guardada > dia_de_hoje + std::chrono::days{7})
+        avisa("Nova Semana", "O relógio do computador diz que hoje é " + texto_do_dia(dia_de_hoje) +
+                                 ", mas a horta já foi cuidada até " + texto_do_dia(guardada) +
+                                 ". Enquanto essa data não chegar, a horta não cresce. Confira a data do computador.");
     if (dia_de_hoje <= guardada) return;
     const int semanas = semanas_ate(guardada, dia_de_hoje);
     if (semanas > 0 && !horta_vazia) mostra_quadro("Nova Semana", "\\anima\\novasema.jpg");
@@ -170,9 +189,35 @@ void INTRONEW::Form_Activate() {
     Timer1.intervalo = intervalo_da_minhoca;
 }
 
-void INTRONEW::clique_quente(std::int16_t acao, Controle* com_ampulheta) {
-    if (com_ampulheta != nullptr) com_ampulheta->ponteiro = ponteiro_ampulheta;
-    animacao.comeca(acao);
+void INTRONEW::pede_fechar() {
+    animacao.para(); // a pergunta da saída toma o lugar do caminho já começado
+    Tela::pede_fechar();
+}
+
+void INTRONEW::saida_Click() {
+    animacao.comeca(acao_saida);
+}
+
+void INTRONEW::pic_feira_Click() {
+    animacao.comeca(acao_feira);
+}
+
+void INTRONEW::pic_horta_Click() {
+    animacao.comeca(acao_horta);
+}
+
+void INTRONEW::pic_semen_Click() {
+    animacao.comeca(serie_mudas.acao);
+    pic_semen.ponteiro = ponteiro_ampulheta;
+}
+
+void INTRONEW::pic_agenda_Click() {
+    animacao.comeca(serie_agenda.acao);
+}
+
+void INTRONEW::interroga_Click() {
+    animacao.comeca(acao_interroga);
+    interroga.ponteiro = ponteiro_ampulheta;
 }
 
 void INTRONEW::fim_da_animacao(int acao) {

@@ -10,8 +10,9 @@ namespace verdalia {
 
 struct INTRONEW : Tela {
     Figura Picture1{*this, "Picture1"};
+    Matriz<Figura> quadro{*this, "quadro"}; // a figura de cada palavra quente do guia, que se clica como ela
     Matriz<Rotulo> Label1{*this, "Label1"};
-    Matriz<Rotulo> legenda{*this, "legenda"};
+    Matriz<Rotulo> legenda{*this, "legenda"}; // o nome de cada figura da esquerda, que se clica como ela
     Figura saida{*this, "saida"};
     Figura pic_feira{*this, "pic_feira"};
     Figura pic_horta{*this, "pic_horta"};
@@ -34,13 +35,21 @@ struct INTRONEW : Tela {
 
     void carga_4_botões();
     void nova_semana(); // põe a horta em dia com o calendário; uma vez por partida
-    void clique_quente(std::int16_t acao, Controle* com_ampulheta);
-    void fim_da_animacao(int acao);
+    void pede_fechar() override;
+    void saida_Click();
+    void pic_feira_Click();
+    void pic_horta_Click();
+    void pic_semen_Click();
+    void pic_agenda_Click();
+    void interroga_Click();
     void Label1_Click(int Index);
     void Label2_Click();
+    void Timer__Timer() { animacao.tique(); }
     void Timer1_Timer(); // um passo da minhoca
+    void fim_da_animacao(int acao);
 
 private:
+    void cria_guia();
     void cria_controles();
     void primeira_carga_da_partida();
 };

@@ -13,15 +13,21 @@ namespace verdalia {
 
 namespace {
 
-void blip_com_voz() {
-    if (som_ligado) efeito("\\blip.wav", espera_o_fim);
+// Pergunta quando a cultura é da família de outra que já terminou ali; `qual` diz qual das duas perguntas é.
+void pergunta_se_repete_familia(std::int16_t anterior, std::int16_t cod_cult, const std::string& qual,
+                                const Retangulo& canteiro, const TelaDeTratos& tela) {
+    const auto figura = [&tela](std::int16_t c) { return dir_media + tela.botao_da_cultura(c).figura; };
+    pergunta("Regra de Rotação",
+             "Esta verdura pertence à mesma família botânica da verdura que ocupava este canteiro. Você deseja "
+             "plantar assim mesmo ?",
+             {.perde_algo = true,
+              .ilustracao = {figura(anterior), figura(cod_cult)},
+              .legenda = nome_cult[anterior] + ", depois " + nome_cult[cod_cult] + qual,
+              .evita = canteiro});
 }
 
-// Pergunta quando a cultura é da família de outra que já terminou ali; -1 não é nenhuma.
-void pergunta_se_repete_familia(std::int16_t anterior, std::int16_t cod_cult) {
-    if (anterior < 0 || familia_cult[anterior] != familia_cult[cod_cult]) return;
-    pergunta("Regra de Rotação", "Esta verdura pertence à mesma família botânica da verdura que ocupava este "
-                                 "canteiro. Você deseja plantar assim mesmo ?");
+bool mesma_familia(std::int16_t anterior, std::int16_t cod_cult) {
+    return anterior >= 0 && familia_cult[anterior] == familia_cult[cod_cult];
 }
 
 void poe_no_canteiro(int i, std::int16_t cod_cult) {
@@ -30,21 +36,17 @@ void poe_no_canteiro(int i, std::int16_t cod_cult) {
     st_idade[i] = 0;
 }
 
-int casa(double posicao) {
-    return std::clamp(static_cast<int>(posicao / passo_da_horta), 0, lado_da_horta - 1);
-}
-
 } // namespace
 
 void trabalhando_na_horta::horta_DragDrop(const Arraste& a) {
     const bool havia_direto = legenda_pede_semente();
     const BotaoDeCultura* botao = cultura_do_botao(a.fonte->nome);
     if (botao == nullptr) return;
-    const int i = casa(a.y) * lado_da_horta + casa(a.x);
+    const int i = casa_da_horta(a.x, a.y);
     // A figura não enche a casa: o que cai na fresta de um canteiro plantado cai nele.
     if (st_cod_cult[i] > cult_vago) return cant_DragDrop(a);
 
-    efeito("\\blip.wav", espera_o_fim);
+    blip();
     const std::int16_t c = botao->cultura;
     const std::int16_t cod_antes = st_cod_cult[i], idade_antes = st_idade[i];
     const std::string nome_antes = st_nome[i];
@@ -69,8 +71,14 @@ void trabalhando_na_horta::horta_DragDrop(const Arraste& a) {
 
 void trabalhando_na_horta::arrastar_soltar_horta(std::int16_t cod_cult, int i) {
     resposta_sim = true;
-    pergunta_se_repete_familia(st_last_i_cu[i], cod_cult);
-    pergunta_se_repete_familia(st_last_last_i_cu[i], cod_cult); // a última resposta decide
+    const std::int16_t ultima = st_last_i_cu[i], penultima = st_last_last_i_cu[i];
+    const bool repete_a_ultima = mesma_familia(ultima, cod_cult),
+               repete_a_penultima = mesma_familia(penultima, cod_cult);
+    const bool duas = repete_a_ultima && repete_a_penultima;
+    const Retangulo canteiro = cant(i).lugar();
+    if (repete_a_ultima) pergunta_se_repete_familia(ultima, cod_cult, duas ? "\n1 de 2" : "", canteiro, *this);
+    if (repete_a_penultima) // a última resposta decide
+        pergunta_se_repete_familia(penultima, cod_cult, duas ? "\n2 de 2" : "", canteiro, *this);
     if (!resposta_sim) return;
     poe_no_canteiro(i, cod_cult);
     if (ciclo_sem[cod_cult] == 0 || Label3(botao_da_cultura(cod_cult).k).texto != "1") return;
@@ -89,19 +97,23 @@ void trabalhando_na_horta::cant_DragDrop(const Arraste& a) {
     avisa("Ocupado", "Este canteiro já está ocupado");
 }
 
-void trabalhando_na_horta::Form_DragDrop(const Arraste& a) {
-    if (a.fonte->nome != "cant") return;
+bool trabalhando_na_horta::Form_DragDrop(const Arraste& a) {
+    if (a.fonte->nome != "cant") return false;
     const int i = a.fonte->indice;
     const std::int16_t c = st_cod_cult[i];
-    if (!pergunta("Atenção ...", "Confirma que quer 'excluir' essa verdura ?")) return;
-    efeito("\\blip.wav", espera_o_fim);
+    if (!pergunta("Atenção ...", "Confirma que quer 'excluir' essa verdura ?", {.perde_algo = true})) return true;
+    blip();
     st_cod_cult[i] = cult_nenhuma;
     st_nome[i].clear();
     st_idade[i] = 0;
+    const bool era_do_trato = txt_label(i).visivel;
+    const Cor cor_do_trato = txt_label(i).cor_fundo;
     destroi_canteiro(i);
     blip_com_voz();
     pl_tr(c);
     btn_sem_horta();
+    if (era_do_trato) confere_fim_do_trato(cor_do_trato);
+    return true;
 }
 
 } // namespace verdalia

@@ -1,6 +1,7 @@
 // O tabuleiro: os controles dos canteiros e as três passadas que os acertam com as tabelas.
 #include "garden/tabuleiro.h"
 
+#include "data/conselho.h"
 #include "data/estado.h"
 #include "data/plano.h"
 #include "garden/tabelas.h"
@@ -12,27 +13,25 @@ using namespace horta_tabelas;
 
 void trabalhando_na_horta::cria_canteiro(int i) {
     // Ficam escondidos até que uma passada os pinte.
-    const auto poe = [this, i](Controle& c, int folga, double largura_dele, double altura_dele) {
+    const double x = i % lado_da_horta * passo_da_horta, y = i / lado_da_horta * passo_da_horta;
+    const auto poe = [this, i](Controle& c, const Retangulo& onde) {
         c.pai = &horta;
-        const int coluna = i % lado_da_horta, fileira = i / lado_da_horta;
-        c.esquerda = coluna * passo_da_horta + folga;
-        c.topo = fileira * passo_da_horta + folga;
-        c.largura = largura_dele;
-        c.altura = altura_dele;
+        c.fica_em(onde);
         c.visivel = false;
+        c.dica_viva = [i](double, double) { return situacao_do_canteiro(i); };
     };
     Figura& f = cant.cria(i);
-    poe(f, 1, 39, 40);
+    poe(f, {x + 1, y + 1, 39, 40});
     f.arrasta = true;
     f.ponteiro = ponteiro_horta;
-    f.dica = nome_canteiro(i);
     f.solta = [this](const Arraste& a) { cant_DragDrop(a); };
     f.clique = [this] { Form_Click(); }; // como no fundo: cala o que se ouve
     Rotulo& r = txt_label.cria(i);
-    poe(r, 2, 37, 16);
+    poe(r, {x + 2, y + 2, 37, 16});
     r.borda = true;
     r.letra = {.corpo = 9, .negrito = true};
-    r.clique = [this, i] { marca_Click(i); };
+    r.ponteiro = ponteiro_mao;
+    r.clique = [this, i] { txt_label_Click(i); };
 }
 
 void trabalhando_na_horta::destroi_canteiro(int i) {
@@ -87,10 +86,9 @@ void trabalhando_na_horta::mostra_legenda(std::int16_t modo, const std::string& 
                                           std::string oper) {
     leg_modo = modo;
     leg_op = op;
-    for (const Trabalho& t : trabalhos) {
-        if (*t.codigo == '\0' || op != t.codigo) continue;
-        txt_label(i).cor_fundo = t.cor;
-        txt_label(i).letra.cor = t.cor_do_texto;
+    if (const Trabalho* t = trato(op)) {
+        txt_label(i).cor_fundo = t->cor;
+        txt_label(i).letra.cor = t->cor_do_texto;
     }
     if (st_cod_cult[i] <= cult_vago || modo != 1) return;
     if (recalcula) oper = oper_canteiro(st_cod_cult[i], st_idade[i]);

@@ -1,5 +1,6 @@
 #include "garden/trabalhando_na_horta.h"
 
+#include "data/conselho.h"
 #include "data/estado.h"
 #include "data/plano.h"
 #include "flow/comum/dialogos.h"
@@ -11,14 +12,11 @@ namespace verdalia {
 
 using namespace horta_tabelas;
 
-namespace {
-constexpr std::int16_t piscadas_da_horta = 19;
-}
-
 trabalhando_na_horta::trabalhando_na_horta()
-    : TelaDeTrabalho("trabalhando_na_horta", series, horta_tabelas::trabalhos, horta_tabelas::culturas, "Command2",
-                     "txt_label") {
+    : TelaDeTratos("trabalhando_na_horta", series, horta_tabelas::trabalhos, horta_tabelas::culturas, "Command2",
+                   "txt_label") {
     solta_no_fundo = true;
+    TelaDeTrabalho::paineis.assign(std::begin(horta_tabelas::paineis), std::end(horta_tabelas::paineis));
 }
 
 void trabalhando_na_horta::cria_rotulos() {
@@ -45,8 +43,11 @@ void trabalhando_na_horta::Form_Load() {
     horta.ponteiro = ponteiro_horta;
     horta.grade = {lado_da_horta, lado_da_horta, passo_da_horta, passo_da_horta};
     horta.solta = [this](const Arraste& a) { horta_DragDrop(a); };
+    horta.clique = [this] { Form_Click(); }; // a terra cala o que se ouve, como o fundo
+    horta.so_do_mouse = true;
+    horta.dica_viva = [](double x, double y) { return situacao_do_canteiro(casa_da_horta(x, y)); };
     pic_semen.figura = carrega_figura(dir_media + "\\anima\\mudas007.bmp");
-    pic_semen.clique = [this] { parte(pic_semen, serie_mudas.acao); };
+    pic_semen.clique = [this] { pic_semen_Click(); };
     liga_ajuda(lbl_atividades, "Atividades");
     fundo = carrega_figura("\\back_ht6.jpg");
     cria_cants();
@@ -54,7 +55,8 @@ void trabalhando_na_horta::Form_Load() {
 
 void trabalhando_na_horta::Form_Activate() {
     if (!primeira_ativacao) return;
-    abre(trilha_horta);
+    comeca_passeio(trilha_horta);
+    mostra_semanas();
     pl_tr(cult_vago);
     monta_matriz2(0, "");
     for (const Trabalho& t : trabalhos) Command2(t.botao).visivel = true;
@@ -68,25 +70,21 @@ void trabalhando_na_horta::Form_Click() {
     silencia(espera_o_fim);
 }
 
-void trabalhando_na_horta::botao_de_tela_Click(const Trabalho& t) {
-    parte(Command2(t.botao), t.acao);
-}
-
 bool trabalhando_na_horta::mostra_marcas(const std::string& codigo) {
     achou_canteiro = false;
     monta_matriz3(1, codigo);
     return achou_canteiro;
 }
 
-void trabalhando_na_horta::marca_Click(int i) {
-    marca_trato(i, st_check[i], piscadas_da_horta);
+void trabalhando_na_horta::txt_label_Click(int i) {
+    marca_trato(i, st_check[i]);
 }
 
 void trabalhando_na_horta::acabou_piscada() {
     parabeniza(falta_plantar(), "\\anima\\parah.jpg");
 }
 
-void trabalhando_na_horta::mudou_semana() {
+void trabalhando_na_horta::mudou_semana(bool) {
     // Um canteiro que acabou, ou que só existia na previsão, perde os controles; um que volta à vida os recebe.
     for (int i = 0; i < n_canteiros; ++i) {
         if (st_cod_cult[i] <= cult_vago)
@@ -103,6 +101,10 @@ void trabalhando_na_horta::cultura_sobre(const BotaoDeCultura& b, const Arraste&
     if (a.fonte->nome != b.nome || falou_nome) return;
     fala_nome(b);
     falou_nome = true;
+}
+
+std::string trabalhando_na_horta::conselho(std::int16_t cultura) const {
+    return conselho_de_plantio(cultura);
 }
 
 void trabalhando_na_horta::pl_tr(std::int16_t cod_cult) {

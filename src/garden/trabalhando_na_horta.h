@@ -1,11 +1,11 @@
 // A horta da família vista de cima: um tabuleiro de 10 por 10 canteiros, onde se planta arrastando, se fazem os
 // tratos da semana e se olha o que vem pela frente. O tabuleiro mostra o estado, não o guarda.
 #pragma once
-#include "flow/comum/tela_de_trabalho.h"
+#include "flow/comum/tela_de_tratos.h"
 
 namespace verdalia {
 
-struct trabalhando_na_horta : TelaDeTrabalho {
+struct trabalhando_na_horta : TelaDeTratos {
     trabalhando_na_horta();
 
     Figura horta{*this, "horta"};
@@ -15,7 +15,7 @@ struct trabalhando_na_horta : TelaDeTrabalho {
     Matriz<Rotulo> Label2{*this, "Label2"}; // as letras das fileiras
     Matriz<Figura> cant{*this, "cant"};
     Matriz<Botao>& Command2 = botoes;
-    Matriz<Rotulo>& txt_label = marcas;
+    Matriz<MarcaDeTrato>& txt_label = marcas;
 
     // O `modo` e o trato da última `mostra_legenda`: um canteiro plantado depois toma deles as cores.
     std::int16_t leg_modo = 0;
@@ -25,7 +25,7 @@ struct trabalhando_na_horta : TelaDeTrabalho {
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Click() override;
-    void Form_DragDrop(const Arraste& a) override; // tirar um canteiro para fora exclui a cultura
+    bool Form_DragDrop(const Arraste& a) override; // tirar um canteiro para fora exclui a cultura
 
     // tabuleiro.cpp: `modo` 1 durante a chamada do trato `op`; senão 0 e "".
     void cria_cants();
@@ -46,14 +46,17 @@ struct trabalhando_na_horta : TelaDeTrabalho {
     // A legenda: quanto falta plantar de uma cultura, de todas (`cult_vago`) ou de nenhuma (`cult_nenhuma`).
     void pl_tr(std::int16_t cod_cult);
 
-    void botao_de_tela_Click(const Trabalho& t) override;
+    void pic_semen_Click() { parte(pic_semen, serie_mudas.acao); }
+    void txt_label_Click(int i);
+    std::int16_t piscadas_da_tela() const override { return 19; }
     bool mostra_marcas(const std::string& codigo) override;
-    void marca_Click(int i) override; // txt_label_Click
-    void mudou_semana() override;
+    void marca_Click(int i) override { txt_label_Click(i); }
+    void mudou_semana(bool adiante) override;
     void acabou_passeio() override { poe_faces(); }
     void acabou_piscada() override;
     void rotulo_Click(const BotaoDeCultura& b) override;
     void cultura_sobre(const BotaoDeCultura& b, const Arraste& a) override;
+    std::string conselho(std::int16_t cultura) const override;
 
 private:
     void cria_rotulos();

@@ -6,9 +6,9 @@
 #include "flow/comum/saida.h"
 #include "platform/base/relogio.h"
 #include "platform/base/texto.h"
+#include "platform/tela/laco.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 #include <random>
 
@@ -54,7 +54,16 @@ constexpr int por_prateleira = 7;
 constexpr Retangulo primeiro_caixote{21, 92, 86, 112};
 constexpr double passo_x = 87, passo_y = 124;
 constexpr Retangulo verdura_no_caixote{5, 5, 76, 78};
-constexpr Retangulo conta_no_caixote{3, 85, 80, 30};
+constexpr Retangulo nome_no_caixote{10, 89, 66, 22};
+constexpr Retangulo conta_no_caixote{46, 3, 38, 24};
+constexpr Retangulo menos_no_caixote{3, 3, 24, 24};
+
+// O que se lê primeiro: a barraca, e depois o caminho da horta e a porta.
+constexpr Retangulo partes[] = {{0, 0, 645, 475}, {0, 475, 645, 117}, {645, 0, 147, 592}};
+
+Retangulo no_caixote(const Controle& caixote, const Retangulo& onde) {
+    return {caixote.esquerda + onde.x, caixote.topo + onde.y, onde.largura, onde.altura};
+}
 
 constexpr Lugar lugares[] = {
     {"lbl_total", -1, 320, 486, 92, 58, "", "Esta é a área da sua horta"},
@@ -63,6 +72,7 @@ constexpr Lugar lugares[] = {
     {"Label3", -1, 656, 132, 130, 172, "", "Sair do jogo"},
 };
 
+constexpr int botao_direito = 2;
 constexpr int demora_sem_musica = 5;
 constexpr int demora_com_musica = 12000; // a trilha é ouvida primeiro
 constexpr int intervalo_dos_pregoes = 2500;
@@ -72,33 +82,51 @@ constexpr int intervalo_dos_pregoes = 2500;
 void Caixote::pinta(Pintor& p, const Retangulo& r) {
     const Retangulo& v = verdura_no_caixote;
     if (figura) p.imagem(*figura, {r.x + v.x, r.y + v.y, v.largura, v.altura});
+    const Retangulo& n = nome_no_caixote;
+    p.texto_que_cabe(texto, {r.x + n.x, r.y + n.y, n.largura, n.altura}, letra);
     if (sob_o_mouse()) p.contorno(r, apertado() ? 4 : 2.5, cor_ouro);
+}
+
+void Conta::pinta(Pintor& p, const Retangulo& r) {
+    p.moldura(r, r.altura / 2, 1.5, cor_madeira_escura, cor_ouro);
+    p.texto_que_cabe(texto, {r.x + 3, r.y, r.largura - 6, r.altura}, letra);
+}
+
+void Menos::pinta(Pintor& p, const Retangulo& r) {
+    p.moldura(r, r.altura / 2, 1.5, cor_madeira_escura, sob_o_mouse() ? cor_ouro : cor_papel_claro);
+    p.redondo({r.x + r.largura / 2 - 6, r.y + r.altura / 2 - 1.5, 12, 3}, 1.5, cor_tinta);
+}
+
+feira_horta::feira_horta() : Tela("feira_horta") {
+    paineis.assign(std::begin(partes), std::end(partes));
 }
 
 void feira_horta::cria_controles() {
     for (int i = 0; i < n_verduras; ++i) {
         Caixote& caixote = plc.cria(i);
-        caixote.esquerda = primeiro_caixote.x + passo_x * (i % por_prateleira);
-        caixote.topo = primeiro_caixote.y + passo_y * std::floor(i / por_prateleira);
-        caixote.largura = primeiro_caixote.largura;
-        caixote.altura = primeiro_caixote.altura;
+        caixote.fica_em({primeiro_caixote.x + passo_x * (i % por_prateleira),
+                         primeiro_caixote.y + passo_y * (i / por_prateleira), primeiro_caixote.largura,
+                         primeiro_caixote.altura});
         caixote.figura = carrega_figura(verduras[i].figura);
-        caixote.dica = nome_cult[verduras[i].cultura] + "\nO botão direito tira";
+        caixote.texto = nome_cult[verduras[i].cultura];
+        caixote.letra = {.familia = Familia::legenda, .corpo = 10, .negrito = true};
+        caixote.dica = caixote.texto + "\nO botão direito tira\nNo teclado: + põe, − tira";
         caixote.ponteiro = ponteiro_mao;
+        caixote.cliques_rapidos = true;
         caixote.botao = [this, i](const Mouse& mouse) { plc_MouseUp(i, mouse.botao); };
     }
     for (int i = 0; i < n_verduras; ++i) {
         Rotulo& conta = qt.cria(verduras[i].qt);
-        conta.esquerda = plc(i).esquerda + conta_no_caixote.x;
-        conta.topo = plc(i).topo + conta_no_caixote.y;
-        conta.largura = conta_no_caixote.largura;
-        conta.altura = conta_no_caixote.altura;
-        conta.letra = {.familia = Familia::legenda, .corpo = 13, .negrito = true};
+        conta.fica_em(no_caixote(plc(i), conta_no_caixote));
+        conta.letra = {.familia = Familia::legenda, .corpo = 12, .negrito = true};
         conta.atravessa = true;
+        Rotulo& tira = menos.cria(i);
+        tira.fica_em(no_caixote(plc(i), menos_no_caixote));
+        tira.dica = "Tirar um de " + plc(i).texto;
+        tira.ponteiro = ponteiro_mao;
+        tira.so_do_mouse = tira.cliques_rapidos = true;
+        tira.clique = [this, i] { plc_MouseUp(i, botao_direito); };
     }
-    // O teclado anda primeiro pelas verduras, na ordem das prateleiras.
-    std::rotate(controles.begin(), std::find(controles.begin(), controles.end(), &plc(0)), controles.end());
-
     arruma(*this, lugares);
     lbl_total.letra = {.familia = Familia::legenda, .corpo = 27, .negrito = true};
     Label4.letra = {.familia = Familia::legenda, .corpo = 12, .negrito = true};
@@ -131,11 +159,12 @@ void feira_horta::mostra_conta(int Index) {
     Rotulo& conta = qt(v.qt);
     conta.visivel = seq_pedido[v.cultura] * qtd_unidade[v.cultura] != 0;
     conta.texto = conta.visivel ? std::to_string(seq_pedido[v.cultura]) + " x" : "";
+    menos(Index).visivel = conta.visivel;
 }
 
 void feira_horta::plc_MouseUp(int Index, int Button) {
     const std::int16_t c = verduras[Index].cultura;
-    efeito("\\blip.wav", espera_o_fim);
+    blip();
     const int novo = std::max(0, seq_pedido[c] + (Button == 1 ? 1 : -1));
     const int soma = std::atoi(lbl_total.texto.c_str()) + (novo - seq_pedido[c]) * area_unidade[c];
     if (soma > area_maxima) {
@@ -159,7 +188,7 @@ void feira_horta::Form_Click() {
 }
 
 void feira_horta::Timer2_Timer() {
-    if (saindo) return; // a demora recomeça: nada de pregões por cima das perguntas
+    if (na_saida) return; // a demora recomeça: nada de pregões por cima das perguntas
     Timer1.intervalo = intervalo_dos_pregoes;
     Timer2.intervalo = 0;
 }
@@ -186,9 +215,7 @@ void feira_horta::Label2_Click() {
 void feira_horta::Label3_Click() {
     const int intervalo = Timer1.intervalo;
     Timer1.intervalo = 0;
-    saindo = true;
     sai_do_jogo();
-    saindo = false;
     Timer1.intervalo = intervalo;
 }
 

@@ -8,15 +8,28 @@
 
 namespace verdalia {
 
-// Um caixote da barraca: a verdura em cima e a etiqueta da conta embaixo. Clica-se em qualquer parte dele.
+// Um caixote da barraca: a verdura em cima e a etiqueta com o nome embaixo. Clica-se em qualquer parte dele.
 struct Caixote : Figura {
     using Figura::Figura;
     void pinta(Pintor& p, const Retangulo& r) override;
 };
 
+// A conta de uma verdura, num selo no alto do caixote.
+struct Conta : Rotulo {
+    using Rotulo::Rotulo;
+    void pinta(Pintor& p, const Retangulo& r) override;
+};
+
+// O "−" de um caixote com alguma coisa pedida: tira uma, para quem não usa o botão direito.
+struct Menos : Rotulo {
+    using Rotulo::Rotulo;
+    void pinta(Pintor& p, const Retangulo& r) override;
+};
+
 struct feira_horta : Tela {
-    Matriz<Caixote> plc{*this, "plc"}; // na ordem dos pregões
-    Matriz<Rotulo> qt{*this, "qt"};    // em ordem quase alfabética
+    Matriz<Caixote> plc{*this, "plc"};   // na ordem dos pregões
+    Matriz<Conta> qt{*this, "qt"};       // em ordem quase alfabética
+    Matriz<Menos> menos{*this, "menos"}; // como em plc
     Rotulo lbl_total{*this, "lbl_total"};
     Rotulo Label4{*this, "Label4"};
     Rotulo Label2{*this, "Label2"}; // para a horta
@@ -24,9 +37,7 @@ struct feira_horta : Tela {
     Temporizador Timer1{*this};     // os pregões
     Temporizador Timer2{*this};     // a demora antes deles
 
-    bool saindo = false; // as perguntas da saída estão abertas
-
-    feira_horta() : Tela("feira_horta") {}
+    feira_horta();
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Click() override;

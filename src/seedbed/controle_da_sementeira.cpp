@@ -1,23 +1,20 @@
 #include "seedbed/controle_da_sementeira.h"
 
+#include "data/conselho.h"
 #include "data/estado.h"
 #include "flow/comum/dialogos.h"
 #include "flow/comum/falas.h"
-#include "flow/regras/calendario.h"
 #include "seedbed/tabelas.h"
 
 namespace verdalia {
 
 using namespace sementeira_tabelas;
 
-namespace {
-constexpr std::int16_t piscadas_da_sementeira = 18;
-}
-
 controle_da_sementeira::controle_da_sementeira()
-    : TelaDeTrabalho("controle_da_sementeira", series, sementeira_tabelas::trabalhos, sementeira_tabelas::culturas,
-                     "Command4", "Label4") {
+    : TelaDeTratos("controle_da_sementeira", series, sementeira_tabelas::trabalhos, sementeira_tabelas::culturas,
+                   "Command4", "Label4") {
     solta_no_fundo = true;
+    TelaDeTrabalho::paineis.assign(std::begin(sementeira_tabelas::paineis), std::end(sementeira_tabelas::paineis));
 }
 
 void controle_da_sementeira::cria_rotulos() {
@@ -31,11 +28,10 @@ void controle_da_sementeira::cria_rotulos() {
 void controle_da_sementeira::Form_Load() {
     cria_rotulos();
     prepara("sementeira", lugares);
-    for (const auto& [k, rotulo] : Label3) rotulo->largura = 195 * twip; // só mostra "1"
     modo_sem.clear();
     poe_faces();
     pic_horta.figura = carrega_figura(dir_media + "\\anima\\enx00c.bmp");
-    pic_horta.clique = [this] { parte(pic_horta, acao_horta); };
+    pic_horta.clique = [this] { pic_horta_Click(); };
     liga_ajuda(lbl_atividades, "Atividades_Sem");
     liga_ajuda(lbl_verduras, "Culturas2", 12);
     fundo = carrega_figura("\\back_se5.jpg");
@@ -44,7 +40,8 @@ void controle_da_sementeira::Form_Load() {
 
 void controle_da_sementeira::Form_Activate() {
     if (!primeira_ativacao) return;
-    abre(trilha_sem);
+    comeca_passeio(trilha_sem);
+    mostra_semanas();
     pl_sem(cult_vago);
     Monta_sem2();
     ponteiro = ponteiro_cruz;
@@ -55,8 +52,8 @@ void controle_da_sementeira::Form_Click() {
     silencia(espera_o_fim);
 }
 
-void controle_da_sementeira::botao_de_tela_Click(const Trabalho& t) {
-    parte(Command4(t.botao), t.acao);
+void controle_da_sementeira::pic_horta_Click() {
+    parte(pic_horta, acao_horta);
 }
 
 bool controle_da_sementeira::mostra_marcas(const std::string& codigo) {
@@ -64,8 +61,8 @@ bool controle_da_sementeira::mostra_marcas(const std::string& codigo) {
     return leg_sem(codigo);
 }
 
-void controle_da_sementeira::marca_Click(int i) {
-    marca_trato(i, sem_check[i], piscadas_da_sementeira);
+void controle_da_sementeira::Label4_Click(int Index) {
+    marca_trato(Index, sem_check[Index]);
 }
 
 void controle_da_sementeira::acabou_piscada() {
@@ -76,8 +73,8 @@ void controle_da_sementeira::acabou_piscada() {
     parabeniza(falta_semear(), "\\anima\\paras.jpg");
 }
 
-void controle_da_sementeira::mudou_semana() {
-    if (previsao_ligada()) modo_sem = "PLS"; // as marcas eram da outra semana
+void controle_da_sementeira::mudou_semana(bool adiante) {
+    if (adiante) modo_sem = "PLS"; // as marcas eram da outra semana
     pl_sem(cult_vago);
     Monta_sem();
 }
@@ -90,6 +87,10 @@ void controle_da_sementeira::acabou_passeio() {
 
 void controle_da_sementeira::rotulo_Click(const BotaoDeCultura& b) {
     avisa(avisos[b.k].titulo, avisos[b.k].texto);
+}
+
+std::string controle_da_sementeira::conselho(std::int16_t cultura) const {
+    return conselho_de_semeadura(cultura);
 }
 
 void controle_da_sementeira::cultura_sobre(const BotaoDeCultura& b, const Arraste&) {

@@ -1,21 +1,21 @@
 // A sementeira: 22 leiras onde treze culturas são semeadas, por arraste, antes de ir para a horta. A tela diz o que
 // semear nesta semana e que leiras pedem limpeza, desbaste ou transplante. Mostra o estado, não o guarda.
 #pragma once
-#include "flow/comum/tela_de_trabalho.h"
+#include "flow/comum/tela_de_tratos.h"
 
 namespace verdalia {
 
-// Metade de uma leira: a muda, em cima, ou o seu crescimento. O clique só cala o que se ouve, e por isso o teclado
-// não para onde não há o que arrastar.
+// Metade de uma leira: a muda, em cima, ou o seu crescimento. Uma semente cai na leira inteira.
 struct MeiaLeira : Figura {
     using Figura::Figura;
-    bool pronta = false; // na semana do transplante: contornada com a cor dele
+    const MeiaLeira* outra = nullptr; // a outra metade
+    bool pronta = false;              // na semana do transplante: contornada com a cor dele
 
-    bool interage() const override { return arrasta && ativo && a_vista(); }
+    Retangulo realce() const override;
     void pinta(Pintor& p, const Retangulo& r) override;
 };
 
-struct controle_da_sementeira : TelaDeTrabalho {
+struct controle_da_sementeira : TelaDeTratos {
     controle_da_sementeira();
 
     Figura pic_horta{*this, "pic_horta"};
@@ -25,14 +25,14 @@ struct controle_da_sementeira : TelaDeTrabalho {
     Matriz<MeiaLeira> CRESCE{*this, "CRESCE"}; // 0 a 21, como as outras por leira
     Matriz<MeiaLeira> Image3{*this, "Image3"};
     Matriz<Botao>& Command4 = botoes;
-    Matriz<Rotulo>& Label4 = marcas;
+    Matriz<MarcaDeTrato>& Label4 = marcas;
 
     std::string modo_sem; // o trato cujas marcas estão nas leiras; "PLS" ou "": nenhum
 
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Click() override;
-    void Form_DragDrop(const Arraste& a) override; // tirar uma leira para fora a exclui
+    bool Form_DragDrop(const Arraste& a) override; // tirar uma leira para fora a exclui
     void Form_DragOver() override { falou_nome = false; }
 
     // leiras.cpp: refazem leiras e botões pelas tabelas.
@@ -48,14 +48,17 @@ struct controle_da_sementeira : TelaDeTrabalho {
     void pl_sem(std::int16_t cultura);
     void Image3_DragDrop(int Index, const Arraste& a);
 
-    void botao_de_tela_Click(const Trabalho& t) override;
+    void pic_horta_Click();
+    void Label4_Click(int Index);
+    std::int16_t piscadas_da_tela() const override { return 18; }
     bool mostra_marcas(const std::string& codigo) override;
-    void marca_Click(int i) override; // Label4_Click
-    void mudou_semana() override;
+    void marca_Click(int i) override { Label4_Click(i); }
+    void mudou_semana(bool adiante) override;
     void acabou_passeio() override;
     void acabou_piscada() override;
     void rotulo_Click(const BotaoDeCultura& b) override; // Label3_Click
     void cultura_sobre(const BotaoDeCultura& b, const Arraste& a) override;
+    std::string conselho(std::int16_t cultura) const override;
 
 private:
     void cria_rotulos();

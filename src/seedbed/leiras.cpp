@@ -1,23 +1,21 @@
 // As leiras: os seus controles e as passadas que os acertam com as tabelas.
+#include "data/conselho.h"
 #include "data/estado.h"
 #include "data/plano.h"
 #include "seedbed/controle_da_sementeira.h"
 #include "seedbed/tabelas.h"
 
+#include <algorithm>
+
 namespace verdalia {
 
 using namespace sementeira_tabelas;
 
-namespace {
-
-void poe(Controle& c, const Retangulo& onde) {
-    c.esquerda = onde.x;
-    c.topo = onde.y;
-    c.largura = onde.largura;
-    c.altura = onde.altura;
+Retangulo MeiaLeira::realce() const {
+    const Retangulo a = lugar(), b = outra->lugar();
+    const double topo = std::min(a.y, b.y), base = std::max(a.y + a.altura, b.y + b.altura);
+    return {a.x, topo, a.largura, base - topo};
 }
-
-} // namespace
 
 void MeiaLeira::pinta(Pintor& p, const Retangulo& r) {
     Figura::pinta(p, r);
@@ -28,17 +26,25 @@ void controle_da_sementeira::cria_leira(int r) {
     const double esquerda = primeira_coluna + passo_da_coluna * (r % colunas);
     const int bloco = r / colunas;
     MeiaLeira& cresce = CRESCE.cria(r);
-    poe(cresce, {esquerda, topo_do_crescimento[bloco], largura_da_leira, altura_do_crescimento});
+    cresce.fica_em({esquerda, topo_do_crescimento[bloco], largura_da_leira, altura_do_crescimento});
     MeiaLeira& muda = Image3.cria(r);
-    poe(muda, {esquerda, topo_da_muda[bloco], largura_da_leira, altura_da_muda});
-    muda.solta = [this, r](const Arraste& a) { Image3_DragDrop(r, a); };
-    cresce.clique = muda.clique = [this] { Form_Click(); }; // como no fundo: cala o que se ouve
+    muda.fica_em({esquerda, topo_da_muda[bloco], largura_da_leira, altura_da_muda});
+    cresce.outra = &muda;
+    muda.outra = &cresce;
+    for (MeiaLeira* metade : {&cresce, &muda}) {
+        metade->solta = [this, r](const Arraste& a) { Image3_DragDrop(r, a); };
+        metade->clique = [this] { Form_Click(); }; // como no fundo: cala o que se ouve
+        metade->so_do_mouse = true;
+        metade->dica_viva = [r](double, double) { return situacao_da_leira(r); };
+    }
     Rotulo& marca = Label4.cria(r);
-    poe(marca, {esquerda + 30 * twip, muda.topo + 30 * twip, 530 * twip, 225 * twip});
+    marca.fica_em({esquerda + 30 * twip, muda.topo + 30 * twip, 530 * twip, 225 * twip});
     marca.borda = true;
     marca.visivel = false;
+    marca.ponteiro = ponteiro_mao;
     marca.letra = {.corpo = 9, .negrito = true, .cor = preto};
-    marca.clique = [this, r] { marca_Click(r); };
+    marca.dica_viva = muda.dica_viva;
+    marca.clique = [this, r] { Label4_Click(r); };
 }
 
 void controle_da_sementeira::poe_muda(int r, ImagemRef figura) {
@@ -84,8 +90,7 @@ bool controle_da_sementeira::leg_sem(const std::string& modo) {
         marca.visivel = false;
         marca.texto = sem_check[r] == -1 ? "ok" : "";
         if (!Image3(r).figura || modo == "PLS" || oper_leira(sem_cod_cult[r], sem_idade[r]) != modo) continue;
-        for (const Trabalho& t : trabalhos)
-            if (modo == t.codigo) marca.cor_fundo = t.cor;
+        if (const Trabalho* t = trato(modo)) marca.cor_fundo = t->cor;
         marca.visivel = true;
         achou = true;
     }

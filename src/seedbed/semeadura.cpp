@@ -46,28 +46,31 @@ void controle_da_sementeira::Image3_DragDrop(int Index, const Arraste& a) {
     falou_nome = false;
     const BotaoDeCultura* botao = cultura_do_botao(a.fonte->nome);
     if (botao == nullptr) return; // uma leira sobre outra
-    efeito("\\blip.wav", espera_o_fim);
+    blip();
     if (Image3(Index).figura) return avisa("Ocupado ...", "Este 'lote' está ocupado");
     poe_muda(Index, carrega_figura(a.fonte->figura->caminho));
     ocupa_leira(*botao, Index);
-    if (som_ligado) efeito("\\blip.wav", espera_o_fim);
+    blip_com_voz();
     pl_sem(botao->cultura);
     CRESCER(Index);
     if (havia_falta) parabeniza(falta_semear(), "\\anima\\paras.jpg");
 }
 
-void controle_da_sementeira::Form_DragDrop(const Arraste& a) {
-    if (a.fonte->nome != Image3.nome) return;
+bool controle_da_sementeira::Form_DragDrop(const Arraste& a) {
+    if (a.fonte->nome != Image3.nome) return false;
     const int r = a.fonte->indice;
-    if (sem_cod_cult[r] <= cult_vago) return;
-    if (!pergunta("Atenção", "Quer 'excluir' a  muda ?")) return;
-    efeito("\\blip.wav", espera_o_fim);
+    if (sem_cod_cult[r] <= cult_vago) return false;
+    if (!pergunta("Atenção", "Quer 'excluir' a  muda ?", {.perde_algo = true})) return true;
+    blip();
     poe_muda(r, nullptr);
     sem_cod_cult[r] = cult_nenhuma;
     sem_nome[r].clear();
     sem_idade[r] = 0;
+    const bool era_do_trato = Label4(r).visivel;
     pl_sem(cult_vago);
     CRESCER(r);
+    if (era_do_trato) confere_fim_do_trato(Label4(r).cor_fundo);
+    return true;
 }
 
 } // namespace verdalia

@@ -2,7 +2,7 @@
 #pragma once
 #include "data/catalogo.h"
 #include "data/plano.h"
-#include "flow/comum/tela_de_trabalho.h"
+#include "flow/comum/tela_de_tratos.h"
 
 namespace verdalia::sementeira_tabelas {
 
@@ -11,8 +11,9 @@ inline constexpr const char* dica_semeadas = "Quantidade de 'leiras' que devem s
 // Um botão de cultura com o rótulo no canto de cima, à direita.
 constexpr BotaoDeCultura botao(int k, std::int16_t cultura, const char* nome, double esquerda, double topo,
                                const char* abreviatura, const char* figura, const char* clipe, const char* dica) {
-    return {k,           cultura,     nome,   esquerda * twip, topo * twip, (esquerda + 585 - 195) * twip,
-            topo * twip, abreviatura, figura, clipe,           dica,        dica_semeadas};
+    const Retangulo lugar{esquerda * twip, topo * twip, 585 * twip, 600 * twip};
+    const Retangulo rotulo{(esquerda + 585 - 195) * twip, topo * twip, 195 * twip, 255 * twip};
+    return {k, cultura, nome, lugar, rotulo, abreviatura, figura, clipe, dica, dica_semeadas};
 }
 
 // clang-format off
@@ -69,18 +70,19 @@ inline constexpr Trabalho trabalhos[] = {
 };
 // clang-format on
 
+// clang-format off
 inline constexpr Serie series[] = {
     serie_tempo_real,
     serie_previsao,
     serie_de_botao(acao_li, "Command4", 1, "\\anima\\li", capina, 13, 7),
     serie_de_botao(acao_des, "Command4", 2, "\\anima\\des", de_0_a_12, 14, 7),
     serie_de_botao(acao_tra, "Command4", 3, "\\anima\\tra", de_0_a_12, 14, 5),
-    serie_de_botao(acao_botao_horta, "Command4", botao_horta, "\\anima\\enx", de_0_a_10, 12, 1, "\\vamhor.wav",
-                   TelaId::trabalhando_na_horta),
+    serie_de_botao(acao_botao_horta, "Command4", botao_horta, "\\anima\\enx", de_0_a_10, 12, 1, viagem_a_horta),
     serie_hortelao,
     serie_agenda,
     serie_enxada(acao_horta),
 };
+// clang-format on
 
 // As leiras: dois blocos de onze colunas.
 inline constexpr int colunas = n_leiras / 2;
@@ -106,6 +108,9 @@ inline constexpr Lugar lugares[] = {
     {"tempo_real", -1, 18, 520, 75, 61},
     {"tempo", -1, 78, 516, 23, 19, "", "Marcador da semana atual do ano"},
 };
+
+// O que se lê primeiro: os caminhos e os tempos, as sementes, as leiras, os tratos.
+inline constexpr Retangulo paineis[] = {{0, 0, 130, 592}, {130, 0, 560, 165}, {130, 165, 560, 427}, {690, 0, 102, 592}};
 // clang-format on
 
 } // namespace verdalia::sementeira_tabelas

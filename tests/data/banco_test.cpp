@@ -107,7 +107,7 @@ TEST_F(Banco, RegistroEstranhoFicaDeForaEORestoEntra) {
         {"st",
          {"0,99,0,0,-1,-1", "0,1,8,0,-1,-1", "0,0,1,0,-1,-1", "0,-1,0,0,-1,-1", "250,1,0,0,-1,-1", "-1,1,0,0,-1,-1",
           "NULL,1,0,0,-1,-1", "0,NULL,0,0,-1,-1", "0,1,NULL,0,-1,-1", "0,1,0,NULL,-1,-1", "0,1,0,7,-1,-1",
-          "0,1,0,0,0,-1", "0,1,0,0,-1,22", "'x',1,0,0,-1,-1", "0,1.5,0,0,-1,-1", "0,1,x'00',0,-1,-1",
+          "'x',1,0,0,-1,-1", "0,1.5,0,0,-1,-1", "0,1,x'00',0,-1,-1",
           "4294967296,1,0,0,-1,-1", "7,2,1,0,-1,-1"}},
         {"sem", {"0,7,0,0", "0,1,5,0", "22,1,0,0", "3,1,0,0"}},
         {"seq", {"0,1", "22,1", "2,-1", "1,1", "9,14"}}};
@@ -132,6 +132,23 @@ TEST_F(Banco, RegistroEstranhoFicaDeForaEORestoEntra) {
             EXPECT_EQ(guardada(), boa);
             EXPECT_EQ(avisos_do_banco.size(), 1U);
         }
+}
+
+TEST_F(Banco, LembrancaEstranhaNaoCustaOCanteiroEOQueSePerderiaFicaCopiado) {
+    prepara_banco();
+    executa("INSERT INTO st VALUES (5,1,3,-1,0,9); INSERT INTO st VALUES (6,2,1,0,22,'x')");
+    const std::string como_estava = conteudo(arquivo);
+    le_canteiros();
+    EXPECT_EQ(st_cod_cult[5], cult_alface);
+    EXPECT_EQ(st_last_i_cu[5], cult_nenhuma);
+    EXPECT_EQ(st_last_last_i_cu[5], cult_cenoura);
+    EXPECT_EQ(st_last_i_cu[6] + st_last_last_i_cu[6], 2 * cult_nenhuma);
+    ASSERT_EQ(avisos_do_banco.size(), 1U);
+    EXPECT_NE(avisos_do_banco[0].find("hortas00 2026-03-04.mdb"), std::string::npos) << avisos_do_banco[0];
+    EXPECT_EQ(na_pasta().size(), 1U); // a cópia espera pela gravação
+    for (int vez = 0; vez < 2; ++vez) grava_canteiros();
+    EXPECT_EQ(na_pasta().size(), 2U);
+    EXPECT_EQ(conteudo(jogador / "hortas00 2026-03-04.mdb"), como_estava);
 }
 
 TEST_F(Banco, ArquivoRuimEPostoDeLado) {

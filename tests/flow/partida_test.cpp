@@ -99,8 +99,9 @@ TEST_F(Centro, PortaComBancoPresoNaoPerdeNadaEDepoisGravaEAvisaPendencias) {
 TEST_F(Centro, PortaSemGravacaoESemTrabalhoAcabaEmSilencio) {
     guarda_horta(hoje());
     entra().confere([] { esvazia(); });
-    // O fecho da janela é a porta; o segundo pedido, no meio da pergunta, não responde por ninguém.
-    roteiro.fecha_janela().esta_em("form_ok_nao").fecha_janela().tecla(SDLK_ESCAPE).esta_em("form_ok_nao");
+    // O fecho da janela é a porta; o segundo pedido, no meio da pergunta, não responde por ninguém; Esc é "Não".
+    roteiro.fecha_janela().esta_em("form_ok_nao").tecla(SDLK_ESCAPE).esta_em("INTRONEW");
+    roteiro.fecha_janela().fecha_janela().esta_em("form_ok_nao");
     roteiro.teclas({SDLK_s, SDLK_n}).acabou();
     joga();
     le_canteiros();

@@ -28,7 +28,7 @@ TEST_F(Sementeira, TratosMarcadosAcabamComASemana) {
     });
     semeia_com_mouse("c_tom", 8).quadro("Parabéns");
     // A fala diz se há mudas por tratar.
-    roteiro.confere([&] { s.chama_trato(3); });
+    roteiro.confere([&] { s.chama_trato(*s.trato("TR")); });
     laco();
     EXPECT_EQ(falas("\\mudlimp.wav") + 10 * falas("\\nlimp.wav"), 1);
     for (const int r : {0, 1, 3, 4}) EXPECT_EQ(sem_check[r], -1) << r;

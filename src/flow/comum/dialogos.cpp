@@ -15,6 +15,7 @@ constexpr double margem = 18;
 constexpr double lado_da_figura = 120;
 constexpr double altura_do_botao = 42;
 constexpr double largura_do_botao = 110;
+constexpr double lado_da_ilustracao = 54;
 constexpr Letra letra_da_mensagem{.corpo = 16};
 
 // O que `ok` e `form_ok_nao` têm em comum: hortelão à esquerda, mensagem à direita, altura conforme o texto.
@@ -23,8 +24,7 @@ void veste(Tela& tela, Figura& hortelao, Rotulo& mensagem) {
     tela.largura = largura_do_dialogo;
     tela.cor_fundo = cor_papel_claro;
     hortelao.figura = carrega_figura("\\recursos\\hortelao.bmp");
-    hortelao.esquerda = hortelao.topo = margem;
-    hortelao.largura = hortelao.altura = lado_da_figura;
+    hortelao.fica_em({margem, margem, lado_da_figura, lado_da_figura});
     mensagem.letra = letra_da_mensagem;
     mensagem.alinha = Alinha::esquerda;
     mensagem.esquerda = 2 * margem + lado_da_figura;
@@ -42,10 +42,8 @@ void preenche(Tela& tela, Rotulo& mensagem, std::initializer_list<Botao*> da_dir
     tela.altura = topo + altura_do_botao + margem;
     double direita = largura_do_dialogo - margem;
     for (Botao* b : da_direita) {
-        b->esquerda = direita - largura_do_botao;
-        b->topo = topo;
-        b->largura = largura_do_botao;
-        b->altura = altura_do_botao;
+        b->fica_em({direita - largura_do_botao, topo, largura_do_botao, altura_do_botao});
+        b->letra.familia = letra_da_mensagem.familia; // um diálogo tem uma letra só
         direita = b->esquerda - margem;
     }
 }
@@ -74,7 +72,10 @@ void form_ok_nao::Form_Load() {
     for (int i = 0; i < 2; ++i) {
         opções.cria(i).texto = textos[i];
         opções(i).clique = [this, i] { opções_Click(i); };
+        ilustracao.cria(i).atravessa = true;
     }
+    legenda.atravessa = true;
+    legenda.letra = {.corpo = 11, .negrito = true};
 }
 
 void form_ok_nao::opções_Click(int Index) {
@@ -97,12 +98,33 @@ void avisa(const std::string& titulo, const std::string& mensagem) {
     mostra_modal(TelaId::ok);
 }
 
-bool pergunta(const std::string& titulo, const std::string& mensagem) {
+namespace {
+
+// As figuras de que a pergunta fala, à esquerda dos botões, com a legenda ao lado.
+void ilustra(form_ok_nao& d, const Questao& questao) {
+    const double topo = d.opções(0).topo + (altura_do_botao - lado_da_ilustracao) / 2;
+    double esquerda = margem;
+    for (std::size_t i = 0; i < 2; ++i) {
+        Figura& f = d.ilustracao(static_cast<int>(i));
+        f.visivel = i < questao.ilustracao.size();
+        f.figura = f.visivel ? carrega_figura(questao.ilustracao[i]) : nullptr;
+        f.fica_em({esquerda, topo, lado_da_ilustracao, lado_da_ilustracao});
+        esquerda += lado_da_ilustracao + 6;
+    }
+    d.legenda.texto = questao.legenda;
+    d.legenda.fica_em({esquerda, topo, 110, lado_da_ilustracao});
+}
+
+} // namespace
+
+bool pergunta(const std::string& titulo, const std::string& mensagem, const Questao& questao) {
     msg_texto = mensagem;
     resposta_sim = false; // o fim do jogo no meio da pergunta não vale por um sim
     auto& d = carrega_como<form_ok_nao>(TelaId::form_ok_nao);
     preenche(d, d.mensagem, {&d.opções(1), &d.opções(0)}, titulo);
-    d.foco = &d.opções(0); // e não o da pergunta anterior
+    ilustra(d, questao);
+    d.evita = questao.evita;
+    d.foco = &d.opções(questao.perde_algo ? 1 : 0); // e não o da pergunta anterior
     mostra_modal(TelaId::form_ok_nao);
     return resposta_sim;
 }

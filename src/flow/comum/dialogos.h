@@ -25,21 +25,32 @@ struct form_ok_nao : Tela {
     Rotulo mensagem{*this, "mensagem"};
     Matriz<Botao> opções{*this, "opções"};
 
+    Matriz<Figura> ilustracao{*this, "ilustracao"};
+    Rotulo legenda{*this, "legenda"};
+
     form_ok_nao();
     void Form_Load() override;
-    // Não se fecha sem resposta: fechar poderia perder a horta por descuido.
-    void pede_fechar() override {}
+    void pede_fechar() override { opções_Click(1); } // Esc, e o fecho da janela: nada se faz
     void opções_Click(int Index);
 };
 
 struct ok_help : Tela {
     ok_help();
+    void Form_Click() override { descarrega(*this); }
+};
+
+// O que uma pergunta mostra além do texto, e o que a sua resposta arrisca.
+struct Questao {
+    bool perde_algo = false;               // "Não" é então a resposta de quem só aperta Enter
+    std::vector<std::string> ilustracao{}; // até duas figuras, de que se fala
+    std::string legenda{};                 // embaixo delas
+    Retangulo evita{};                     // o que o diálogo não deve cobrir, em pixels da janela
 };
 
 // Mostra `ok` com o título e a mensagem, e espera.
 void avisa(const std::string& titulo, const std::string& mensagem);
 // Mostra `form_ok_nao` e espera; a resposta fica também em `resposta_sim`.
-bool pergunta(const std::string& titulo, const std::string& mensagem);
+bool pergunta(const std::string& titulo, const std::string& mensagem, const Questao& questao = {});
 // Mostra `ok_help` com a figura de `dir_media`, e espera.
 void mostra_quadro(const std::string& titulo, const std::string& figura);
 // Faz algo com o banco; se não dá certo, mostra a explicação seguida de `consolo` e devolve false.

@@ -14,6 +14,14 @@ void efeito(const std::string& clipe, int modo) {
     sndPlaySoundA(som_atual, modo);
 }
 
+void blip() {
+    efeito("\\blip.wav", espera_o_fim);
+}
+
+void blip_com_voz() {
+    if (som_ligado) blip();
+}
+
 void silencia(int modo) {
     som_atual = "\\silencio.wav";
     if (som_ligado) sndPlaySoundA(som_atual, modo);

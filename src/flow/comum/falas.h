@@ -10,6 +10,9 @@ namespace verdalia {
 void fala(const std::string& clipe, int modo);
 // Toca um som da pasta do programa, com a voz ligada ou não.
 void efeito(const std::string& clipe, int modo);
+// O "blip" de uma queda, e o segundo dela, que só se ouve com a voz ligada; esperam o fim.
+void blip();
+void blip_com_voz();
 // Corta o que estiver tocando, se a voz está ligada.
 void silencia(int modo);
 

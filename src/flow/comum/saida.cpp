@@ -31,13 +31,7 @@ bool grava_se_quer() {
                           grava_tudo);
 }
 
-} // namespace
-
-void pergunta_gravar() {
-    pergunta("Gravar alterações", "Deseja salvar ?");
-}
-
-void sai_do_jogo() {
+void faz_as_perguntas() {
     fala("\\s1.wav", sem_esperar);
     if (!pergunta("Saindo ...", "Deseja sair")) {
         fala("\\s3.wav", espera_o_fim);
@@ -48,6 +42,18 @@ void sai_do_jogo() {
     volta_ao_tempo_real(); // o que está por fazer é o de hoje, e não o de uma previsão
     if (ha_pendencias()) mostra_quadro("Pendências", "\\anima\\noaca.jpg");
     termina();
+}
+
+} // namespace
+
+void pergunta_gravar() {
+    pergunta("Gravar alterações", "Deseja salvar ?");
+}
+
+void sai_do_jogo() {
+    na_saida = true;
+    faz_as_perguntas();
+    na_saida = false;
 }
 
 } // namespace verdalia

@@ -18,58 +18,40 @@ inline constexpr std::int8_t hortelao_vai_e_volta[] = {1, 2, 3, 4, 5, 6, 7, 6, 5
 inline constexpr std::int8_t planeta_gira[] = {9, 10, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
 inline constexpr std::int8_t dias_para_tras[] = {1, 2, 3, 4, 5, 6, 7}; // há quantos dias; o 7 é hoje de novo
 
+inline constexpr Viagem viagem_a_sementeira{"\\vamsem.wav", TelaId::controle_da_sementeira};
+inline constexpr Viagem viagem_a_horta{"\\vamhor.wav", TelaId::trabalhando_na_horta};
+
 // Os dois tempos e os caminhos entre as telas, com o número de animação que têm em toda parte.
-inline constexpr Serie serie_tempo_real{
-    .acao = 0, .controle = "tempo_real", .arquivo = fig_dia_passado, .quadros = dias_para_tras};
-inline constexpr Serie serie_previsao{
-    .acao = 1, .controle = "previsao", .antes = "\\anima\\planet", .quadros = planeta_gira, .repouso = 1};
-inline constexpr Serie serie_hortelao{.acao = 14,
-                                      .controle = "hortelino",
-                                      .antes = "\\anima\\hort",
-                                      .quadros = hortelao_vai_e_volta,
-                                      .destino = TelaId::INTRONEW};
-inline constexpr Serie serie_agenda{.acao = 15,
-                                    .controle = "pic_agenda",
-                                    .antes = "\\anima\\age",
-                                    .quadros = de_0_a_10,
-                                    .fala = "\\vamage.wav",
-                                    .destino = TelaId::age};
-inline constexpr Serie serie_mudas{.acao = 16,
-                                   .controle = "pic_semen",
-                                   .antes = "\\anima\\mudas",
-                                   .algarismos = 3,
-                                   .quadros = de_0_a_7,
-                                   .repouso = 7,
-                                   .fala = "\\vamsem.wav",
-                                   .destino = TelaId::controle_da_sementeira};
+// clang-format off
+inline constexpr Serie serie_tempo_real{.acao = 0, .controle = "tempo_real", .quadros = {.numeros = dias_para_tras, .arquivo = fig_dia_passado}};
+inline constexpr Serie serie_previsao{.acao = 1, .controle = "previsao", .quadros = {"\\anima\\planet", planeta_gira}, .repouso = 1};
+inline constexpr Serie serie_hortelao{.acao = 14, .controle = "hortelino", .quadros = {"\\anima\\hort", hortelao_vai_e_volta}, .viagem = {nullptr, TelaId::INTRONEW}};
+inline constexpr Serie serie_agenda{.acao = 15, .controle = "pic_agenda", .quadros = {"\\anima\\age", de_0_a_10}, .viagem = {"\\vamage.wav", TelaId::age}};
+inline constexpr Serie serie_mudas{.acao = 16, .controle = "pic_semen", .quadros = {"\\anima\\mudas", de_0_a_7, 3}, .repouso = 7, .viagem = viagem_a_sementeira};
+// clang-format on
 
 // A enxada de `pic_horta`, que tem um número em cada tela.
 constexpr Serie serie_enxada(std::int16_t acao) {
     return {.acao = acao,
             .controle = "pic_horta",
-            .antes = "\\anima\\enx",
-            .depois = "c.bmp",
-            .quadros = de_0_a_10,
+            .quadros = {"\\anima\\enx", de_0_a_10, 2, "c.bmp"},
             .do_clique = 12,
             .repouso = 0,
-            .fala = "\\vamhor.wav",
-            .destino = TelaId::trabalhando_na_horta};
+            .viagem = viagem_a_horta};
 }
 
 // A face de um botão de trabalho, que também gira na apresentação; com destino, leva a outra tela no fim.
 constexpr Serie serie_de_botao(std::int16_t acao, const char* botoes, int indice, const char* antes,
-                               std::span<const std::int8_t> quadros, std::int16_t do_clique, std::int16_t inicio,
-                               const char* fala = nullptr, TelaId destino = sem_destino) {
+                               std::span<const std::int8_t> numeros, std::int16_t do_clique, std::int16_t inicio,
+                               Viagem viagem = {}) {
     return {.acao = acao,
             .controle = botoes,
             .indice = indice,
-            .antes = antes,
-            .quadros = quadros,
+            .quadros = {antes, numeros},
             .do_clique = do_clique,
             .inicio = inicio,
             .no_passeio = true,
-            .fala = fala,
-            .destino = destino};
+            .viagem = viagem};
 }
 
 } // namespace verdalia

@@ -224,11 +224,6 @@ struct Recordset::Partes {
           muda(conexao, "UPDATE " + entre_aspas(tabela) + " SET " + lista(nomes, " = ?") + " WHERE rowid = ?"),
           apaga(conexao, "DELETE FROM " + entre_aspas(tabela) + " WHERE rowid = ?"), registro(nomes.size()) {}
 
-    static std::vector<std::string> exige(std::vector<std::string> campos, const std::string& tabela) {
-        if (campos.empty()) engano("não existe a tabela \"" + tabela + "\"");
-        return campos;
-    }
-
     static std::string repetido(const char* texto, std::size_t vezes) {
         std::string saida;
         while (vezes-- > 0) saida += texto;

@@ -47,6 +47,12 @@ int semana_do_ano(Dia dia) {
     return static_cast<int>((dia - primeiro).count() + dia_da_semana(primeiro) - 1) / 7 + 1;
 }
 
+std::string texto_do_dia(Dia dia) {
+    const std::chrono::year_month_day data{dia};
+    return std::to_string(static_cast<unsigned>(data.day())) + "/" +
+           std::to_string(static_cast<unsigned>(data.month())) + "/" + std::to_string(static_cast<int>(data.year()));
+}
+
 std::string texto_iso(Dia dia) {
     const std::chrono::year_month_day data{dia};
     std::array<char, 32> texto{};

@@ -33,6 +33,9 @@ int dia_da_semana(Dia dia);
 // a semana com o 1º de janeiro seguinte ainda é da semana 53 ou 54 do seu próprio ano.
 int semana_do_ano(Dia dia);
 
+// "1/3/2026", como se lê.
+std::string texto_do_dia(Dia dia);
+
 // "2026-03-01". Anos de 0 a 9999.
 std::string texto_iso(Dia dia);
 

@@ -18,12 +18,9 @@ void Botao::pinta_grafico(Pintor& p, const Retangulo& r, Imagem& face, bool afun
     p.moldura(r, 9, 1, cor_madeira_escura, cor_fundo.a != 0 ? cor_fundo : cor_papel_claro);
     p.imagem(face, {r.x + (r.largura - lado) / 2, r.y + 3 + desce, lado, lado});
     if (texto.empty()) return;
-    const bool escuro = cor_fundo.a != 0 && cor_fundo.r * 3 + cor_fundo.g * 6 + cor_fundo.b < 10 * 110;
-    Letra escrita = {.familia = Familia::legenda, .corpo = 9, .negrito = true};
-    escrita.cor = escuro ? cor_tinta_clara : ativo ? Cor{0x2b, 0x1a, 0x10} : Cor{0x6b, 0x5a, 0x4a};
-    const double cabe = (r.largura - 8) / largura_texto(texto, escrita);
-    if (cabe < 1) escrita.corpo *= cabe;
-    p.texto_em(texto, {r.x, r.y + r.altura - faixa - 3, r.largura, faixa + 2}, escrita);
+    const Cor fundo = cor_fundo.a != 0 ? cor_fundo : cor_papel_claro;
+    const Letra escrita{.familia = Familia::legenda, .corpo = 9, .negrito = true, .cor = tinta_sobre(fundo)};
+    p.texto_que_cabe(texto, {r.x + 4, r.y + r.altura - faixa - 3, r.largura - 8, faixa + 2}, escrita);
 }
 
 void Botao::pinta(Pintor& p, const Retangulo& r) {

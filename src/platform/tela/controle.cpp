@@ -26,12 +26,19 @@ Retangulo Controle::lugar() const {
     return r;
 }
 
+void Controle::fica_em(const Retangulo& onde) {
+    esquerda = onde.x;
+    topo = onde.y;
+    largura = onde.largura;
+    altura = onde.altura;
+}
+
 bool Controle::a_vista() const {
     return visivel && (pai == nullptr || pai->a_vista());
 }
 
 bool Controle::interage() const {
-    return ativo && a_vista() && (clique || botao || arrasta);
+    return ativo && a_vista() && (arrasta || ((clique || botao) && !so_do_mouse));
 }
 
 void Controle::aciona() {

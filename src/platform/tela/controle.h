@@ -63,11 +63,14 @@ struct Controle {
     double esquerda = 0, topo = 0, largura = 0, altura = 0;
     bool visivel = true;
     bool ativo = true;
-    bool arrasta = false;   // apertar começa um arraste
-    bool atravessa = false; // enfeite: o mouse passa para o que está por baixo
+    bool arrasta = false;         // apertar começa um arraste
+    bool atravessa = false;       // enfeite: o mouse passa para o que está por baixo
+    bool so_do_mouse = false;     // o clique é só do mouse: o teclado só para aqui se houver o que arrastar
+    bool cliques_rapidos = false; // o segundo aperto de um clique duplo também vale
     int ponteiro = ponteiro_normal;
     std::string texto;
     std::string dica;
+    std::function<std::string(double x, double y)> dica_viva; // a dica que muda, no ponto dado do controle
     ImagemRef figura;
     Cor cor_fundo = cor_transparente;
     Letra letra;
@@ -81,8 +84,11 @@ struct Controle {
     std::function<void()> muda;                // o jogador mudou o valor
     std::function<void()> perde_foco;
 
-    // O lugar na tela, contados os pais.
+    // O lugar na tela, contados os pais; `fica_em` o muda, a partir do canto do pai.
     Retangulo lugar() const;
+    void fica_em(const Retangulo& onde);
+    // O que se acende quando um arraste passa por cima.
+    virtual Retangulo realce() const { return lugar(); }
     bool a_vista() const;
     // O foco do teclado pode parar aqui.
     virtual bool interage() const;

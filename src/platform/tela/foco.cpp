@@ -2,7 +2,6 @@
 #include "platform/tela/botao.h"
 #include "platform/tela/laco_interno.h"
 
-#include "platform/base/relogio.h"
 #include "platform/base/texto.h"
 
 #include <SDL.h>
@@ -19,9 +18,12 @@ struct Ponto {
     double x = 0, y = 0;
 };
 
-Ponto meio(const Controle& c) {
-    const Retangulo r = c.lugar();
+Ponto meio_de(const Controle& c, const Retangulo& r) {
     return {c.dona.origem_x() + r.x + r.largura / 2, c.dona.origem_y() + r.y + r.altura / 2};
+}
+
+Ponto meio(const Controle& c) {
+    return meio_de(c, c.lugar());
 }
 
 Ponto direcao(int codigo) {
@@ -44,15 +46,17 @@ bool e_seta(int codigo) {
     return d.x != 0 || d.y != 0;
 }
 
-// O ponto mais perto na direção da seta; desviar para o lado custa o dobro. -1 quando não há nenhum.
+// O ponto mais perto na direção da seta; desviar para o lado custa o dobro, e o que fica a mais de 45° só serve
+// quando não há outro. -1 quando não há nenhum.
 int mais_perto(const std::vector<Ponto>& pontos, Ponto de, Ponto d) {
+    constexpr double fora_do_rumo = 10000;
     int melhor = -1;
     double custo_melhor = 0;
     for (std::size_t i = 0; i < pontos.size(); ++i) {
         const double dx = pontos[i].x - de.x, dy = pontos[i].y - de.y;
         const double frente = dx * d.x + dy * d.y, lado = std::abs(dx * d.y) + std::abs(dy * d.x);
         if (frente < 1) continue;
-        const double custo = frente + 2 * lado;
+        const double custo = frente + 2 * lado + (lado > frente ? fora_do_rumo : 0);
         if (melhor < 0 || custo < custo_melhor) {
             melhor = static_cast<int>(i);
             custo_melhor = custo;
@@ -69,21 +73,42 @@ int vizinho(int agora, int total, bool para_tras) {
 
 void mostra_foco() {
     e.foco_visivel = true;
-    const Controle* c = tela_ativa()->foco;
-    e.dica_a_vista = false;
-    e.hora_da_dica = c != nullptr && !c->dica.empty() ? relogio->milissegundos() + 600 : -1;
+    apaga_dica();
+    arma_dica(tela_ativa()->foco, true);
+    e.sujo = true;
+}
+
+// Os controles que o teclado alcança, na ordem em que se leem: painel por painel, fileira por fileira.
+std::vector<Controle*> em_ordem_de_leitura(const Tela& tela) {
+    constexpr double mesma_fileira = 14; // pixels entre os meios de controles lado a lado
+    std::vector<Controle*> ordem;
+    std::copy_if(tela.controles.begin(), tela.controles.end(), std::back_inserter(ordem),
+                 [](const Controle* c) { return c->interage(); });
+    const auto painel = [&tela](const Controle* c) {
+        const Ponto p = meio(*c);
+        return std::find_if(tela.paineis.begin(), tela.paineis.end(),
+                            [p](const Retangulo& r) { return r.contem(p.x, p.y); }) -
+               tela.paineis.begin();
+    };
+    std::stable_sort(ordem.begin(), ordem.end(), [&](const Controle* a, const Controle* b) {
+        return std::pair(painel(a), meio(*a).y) < std::pair(painel(b), meio(*b).y);
+    });
+    for (auto primeiro = ordem.begin(); primeiro != ordem.end();) {
+        const auto fim = std::find_if(primeiro, ordem.end(), [&](const Controle* c) {
+            return painel(c) != painel(*primeiro) || meio(*c).y > meio(**primeiro).y + mesma_fileira;
+        });
+        std::stable_sort(primeiro, fim, [](const Controle* a, const Controle* b) { return meio(*a).x < meio(*b).x; });
+        primeiro = fim;
+    }
+    return ordem;
 }
 
 void leva_foco(const Tecla& t) {
-    std::vector<Controle*> candidatos;
-    std::vector<Ponto> pontos;
     Tela& tela = *tela_ativa();
-    for (Controle* c : tela.controles) {
-        if (!c->interage()) continue;
-        candidatos.push_back(c);
-        pontos.push_back(meio(*c));
-    }
+    const std::vector<Controle*> candidatos = em_ordem_de_leitura(tela);
     if (candidatos.empty()) return;
+    std::vector<Ponto> pontos;
+    for (const Controle* c : candidatos) pontos.push_back(meio(*c));
     const auto lugar = std::find(candidatos.begin(), candidatos.end(), tela.foco);
     const int agora = lugar == candidatos.end() ? -1 : static_cast<int>(lugar - candidatos.begin());
     const bool de_onde_estava = e.foco_visivel && e.foco_x >= 0; // o controle em foco pode ter saído da tela
@@ -111,13 +136,16 @@ std::vector<Ponto> alvos_do_arraste() {
     for (Controle* c : tela.controles) {
         if (!c->solta || !c->ativo || !c->a_vista() || c == e.arrastado) continue;
         if (c->grade.colunas == 0) {
-            alvos.push_back(meio(*c));
+            const Ponto p = meio_de(*c, c->realce());
+            // As duas metades de um lugar são um alvo só.
+            if (std::none_of(alvos.begin(), alvos.end(), [p](Ponto a) { return std::hypot(a.x - p.x, a.y - p.y) < 1; }))
+                alvos.push_back(p);
             continue;
         }
         const Retangulo r = c->lugar();
         for (int i = 0; i < c->grade.linhas * c->grade.colunas; ++i) {
             const Ponto casa{tela.origem_x() + r.x + (i % c->grade.colunas + 0.5) * c->grade.passo_x,
-                             tela.origem_y() + r.y + (std::floor(i / c->grade.colunas) + 0.5) * c->grade.passo_y};
+                             tela.origem_y() + r.y + (i / c->grade.colunas + 0.5) * c->grade.passo_y};
             if (controle_em(casa.x, casa.y) == c) alvos.push_back(casa);
         }
     }
@@ -195,6 +223,7 @@ void trata_tecla(const Tecla& t) {
         if (foco->tecla && foco->tecla(t)) return;
         if (foco->teclado(t)) return mostra_foco();
     }
+    if (foco == nullptr && tela->padrao != nullptr && tela->padrao->interage()) foco = tela->padrao;
     const bool enter = t.codigo == SDLK_RETURN || t.codigo == SDLK_KP_ENTER;
     const bool quadro = tela->dialogo && tela->controles.empty(); // só se olha e se fecha
     const bool mais = t.codigo == SDLK_PLUS || t.codigo == SDLK_KP_PLUS || t.codigo == SDLK_EQUALS;
@@ -217,12 +246,9 @@ void pinta_foco(Pintor& p) {
     const Tela* t = tela_ativa();
     if (!e.foco_visivel || e.arrastado != nullptr || t == nullptr || t->foco == nullptr || !t->foco->interage()) return;
     Retangulo r = t->foco->lugar();
-    r.x += t->origem_x() - 3;
-    r.y += t->origem_y() - 3;
-    r.largura += 6;
-    r.altura += 6;
-    p.contorno(r, 3, cor_tinta_clara);
-    p.contorno({r.x + 0.75, r.y + 0.75, r.largura - 1.5, r.altura - 1.5}, 1.5, cor_foco);
+    r.x += t->origem_x();
+    r.y += t->origem_y();
+    p.anel(r);
 }
 
 } // namespace verdalia

@@ -48,7 +48,7 @@ void fecha_fontes() {
 }
 
 TTF_Font* fonte(const Letra& letra, double escala) {
-    const int pixels = std::max(6, static_cast<int>(std::lround(letra.corpo * 4 / 3 * escala)));
+    const int pixels = std::max(4, static_cast<int>(std::lround(letra.corpo * 4 / 3 * escala)));
     const int chave = (pixels << 2) | (static_cast<int>(letra.familia) << 1) | static_cast<int>(letra.negrito);
     auto [lugar, nova] = abertas.try_emplace(chave, nullptr);
     if (nova) {
@@ -71,6 +71,22 @@ double largura_texto(std::string_view texto, const Letra& letra) {
     TTF_SizeUTF8(fonte(letra, aumento_da_medida), std::string(texto).c_str(), &largura, nullptr);
     return largura / aumento_da_medida;
 }
+
+namespace {
+
+// Quantos bytes do começo do texto, em letras inteiras, cabem na largura; pelo menos uma letra.
+std::size_t quanto_cabe(std::string_view texto, const Letra& letra, double largura) {
+    std::size_t cabe = 0;
+    for (std::size_t i = 1; i <= texto.size(); ++i) {
+        const bool fim_de_letra = i == texto.size() || (static_cast<unsigned char>(texto[i]) & 0xC0) != 0x80;
+        if (!fim_de_letra) continue;
+        if (cabe > 0 && largura_texto(texto.substr(0, i), letra) > largura) break;
+        cabe = i;
+    }
+    return cabe;
+}
+
+} // namespace
 
 double altura_linha(const Letra& letra) {
     return TTF_FontLineSkip(fonte(letra, aumento_da_medida)) / aumento_da_medida;
@@ -96,6 +112,13 @@ std::vector<std::string> quebra_linhas(std::string_view texto, const Letra& letr
         } else {
             const std::size_t letra_1 = palavra.find_first_not_of(' ');
             linhas.emplace_back(letra_1 == std::string_view::npos ? "" : palavra.substr(letra_1));
+        }
+        while (largura_texto(linhas.back(), letra) > largura) {
+            const std::size_t cabe = quanto_cabe(linhas.back(), letra, largura);
+            if (cabe == linhas.back().size()) break;
+            std::string resto = linhas.back().substr(cabe);
+            linhas.back().resize(cabe);
+            linhas.push_back(std::move(resto));
         }
         i = fim;
     }

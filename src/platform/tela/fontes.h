@@ -33,7 +33,7 @@ void esquece_tamanhos();
 // Medidas em pixels lógicos, iguais em qualquer tamanho de janela: as linhas quebram sempre nos mesmos lugares.
 double largura_texto(std::string_view texto, const Letra& letra);
 double altura_linha(const Letra& letra);
-// Quebra em linhas que cabem em `largura`; "\n" quebra sempre; palavra maior que a largura fica inteira.
+// Quebra em linhas que cabem em `largura`; "\n" quebra sempre; palavra maior que a largura se parte.
 std::vector<std::string> quebra_linhas(std::string_view texto, const Letra& letra, double largura);
 
 } // namespace verdalia

@@ -13,7 +13,8 @@ struct Evento {
     int x = 0, y = 0; // em pixels da janela
     int botao = 1;    // como em Mouse; na roda, o passo (positivo para cima)
     Tecla tecla_apertada{};
-    std::string escrito{}; // UTF-8
+    std::string escrito{};   // UTF-8
+    std::int64_t quando = 0; // a hora em que o laço o recebeu, em milissegundos
 };
 
 struct Hospedeiro {

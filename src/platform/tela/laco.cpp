@@ -9,6 +9,7 @@
 namespace verdalia {
 
 Hospedeiro* hospedeiro = nullptr;
+bool na_saida = false;
 EstadoDoLaco estado_do_laco;
 
 namespace {
@@ -16,13 +17,14 @@ namespace {
 EstadoDoLaco& e = estado_do_laco;
 
 constexpr std::int64_t demora_da_dica = 600;
-constexpr double folga_do_clique = 4; // pixels lógicos que o mouse anda antes de um aperto virar arraste
+constexpr std::int64_t demora_do_duplo = 400; // entre os dois apertos de um clique duplo
+constexpr double folga_do_clique = 4;         // pixels lógicos que o mouse anda antes de um aperto virar arraste
 
-void agenda_dica() {
-    if (e.dica_a_vista) e.sujo = true;
-    e.dica_a_vista = false;
-    const bool tem = e.sob != nullptr && !e.sob->dica.empty() && e.arrastado == nullptr;
-    e.hora_da_dica = tem ? relogio->milissegundos() + demora_da_dica : -1;
+std::string texto_da_dica(const Controle* c) {
+    if (c == nullptr || e.arrastado != nullptr) return "";
+    if (!c->dica_viva) return c->dica;
+    const Retangulo r = c->lugar();
+    return c->dica_viva(e.x - c->dona.origem_x() - r.x, e.y - c->dona.origem_y() - r.y);
 }
 
 // O ponteiro do controle vale sobre o da tela.
@@ -38,7 +40,7 @@ void acha_sob() {
     if (novo == e.sob) return;
     e.sob = novo;
     e.sujo = true;
-    agenda_dica();
+    if (!e.dica_do_teclado) apaga_dica(); // a do que chegou sob o mouse parado só vem quando ele andar
 }
 
 bool longe_do_aperto() {
@@ -61,27 +63,41 @@ void trata_move() {
         e.apertado->move(e.x - e.apertado->dona.origem_x(), e.y - e.apertado->dona.origem_y());
     }
     acha_sob();
+    arma_dica(e.sob, false);
 }
 
-void trata_aperto(int botao) {
+// O segundo aperto de um clique duplo, no mesmo controle ou no mesmo ponto de uma tela que acabou de mudar.
+bool segundo_aperto(const Evento& ev) {
+    const bool mesmo = (e.sob != nullptr && e.sob == e.apertado_antes) || !longe_do_aperto();
+    const bool segundo = mesmo && ev.botao == e.botao_de_antes && ev.quando - e.apertou_em < demora_do_duplo &&
+                         (e.sob == nullptr || !e.sob->cliques_rapidos);
+    e.apertado_antes = e.sob;
+    e.botao_de_antes = segundo ? 0 : ev.botao; // um terceiro já é outro clique
+    e.apertou_em = ev.quando;
+    return segundo;
+}
+
+void trata_aperto(const Evento& ev) {
     Tela* t = tela_ativa();
     if (t == nullptr || e.arrastado != nullptr) return;
     e.foco_visivel = false;
     acha_sob();
     e.hora_da_dica = -1;
     e.dica_a_vista = false;
-    e.botao = botao;
+    e.sem_clique = segundo_aperto(ev);
+    e.botao = ev.botao;
     e.apertou_x = e.x;
     e.apertou_y = e.y;
     if (e.sob != nullptr && !e.sob->ativo) return;
     e.apertado = e.sob;
-    poe_foco(e.sob != nullptr && e.sob->interage() ? e.sob : nullptr);
-    if (e.apertado != nullptr && botao == 1) e.apertado->aperta(e.x - t->origem_x(), e.y - t->origem_y());
+    poe_foco(e.sob != nullptr && e.sob->interage() ? e.sob : t->padrao);
+    if (e.apertado != nullptr && ev.botao == 1 && !e.sem_clique)
+        e.apertado->aperta(e.x - t->origem_x(), e.y - t->origem_y());
 }
 
 void trata_soltura(int botao) {
-    if (e.arrastado != nullptr) {
-        larga_arraste();
+    if (e.arrastado != nullptr) { // que só o botão esquerdo começa
+        if (botao == 1) larga_arraste();
         return;
     }
     Tela* t = tela_ativa();
@@ -89,6 +105,7 @@ void trata_soltura(int botao) {
     Controle* c = e.apertado;
     e.botao = 0;
     e.apertado = nullptr;
+    if (e.sem_clique) return;
     if (c != nullptr) {
         const Retangulo r = c->lugar();
         const Mouse mouse{botao, e.x - t->origem_x() - r.x, e.y - t->origem_y() - r.y};
@@ -97,7 +114,7 @@ void trata_soltura(int botao) {
         if (botao == 1 && controle_em(e.x, e.y) == c && c->ativo) c->aciona();
     } else if (t->dialogo && t->fechavel && t->caixa_de_fechar().contem(e.x, e.y)) {
         t->pede_fechar();
-    } else if (controle_em(e.x, e.y) == nullptr && botao == 1) {
+    } else if (controle_em(e.x, e.y) == nullptr && botao == 1 && (!t->dialogo || t->miolo().contem(e.x, e.y))) {
         t->Form_Click();
     }
 }
@@ -116,7 +133,7 @@ void trata(const Evento& ev) {
         trata_move();
         break;
     case Evento::aperta:
-        trata_aperto(ev.botao);
+        trata_aperto(ev);
         break;
     case Evento::solta:
         trata_soltura(ev.botao);
@@ -133,7 +150,7 @@ void trata(const Evento& ev) {
     case Evento::janela:
         break;
     case Evento::fecha:
-        if (t != nullptr) t->pede_fechar();
+        e.fecha_pedido = true;
         break;
     }
     // Um som esperado pelo tratador já pintou a tela, antes do que ele mudou depois.
@@ -184,6 +201,7 @@ std::int64_t ate_o_proximo() {
         if (t->intervalo > 0 && !t->disparando)
             conta(t->intervalo == t->intervalo_visto ? t->proximo : agora + t->intervalo);
     if (e.hora_da_dica >= 0) conta(e.hora_da_dica);
+    if (voando()) conta(agora + 16);
     return falta;
 }
 
@@ -201,11 +219,28 @@ void esvazia_descartados() {
     for (Carregada& c : e.pilha) c.tela->descartados.clear();
 }
 
+bool recebe(Evento& ev) {
+    if (!hospedeiro->proximo(ev)) return false;
+    ev.quando = relogio->milissegundos();
+    return true;
+}
+
 bool chegou(Evento& ev) {
-    if (e.adiados.empty()) return hospedeiro->proximo(ev);
+    if (e.adiados.empty()) return recebe(ev);
     ev = e.adiados.front();
     e.adiados.pop_front();
     return true;
+}
+
+// Fechar a janela acaba sempre nas perguntas da saída: os diálogos abertos saem da frente sem resposta, um por um, e
+// quem os abriu termina o que fazia.
+void atende_o_fecho() {
+    Tela* t = tela_ativa();
+    if (t == nullptr) e.fim = true;
+    if (t == nullptr || na_saida || !t->dialogo) e.fecha_pedido = false;
+    if (t == nullptr || na_saida) return;
+    t->pede_fechar();
+    if (t == tela_ativa()) e.fecha_pedido = false; // este não se fecha
 }
 
 void gira(const std::function<bool()>& continua) {
@@ -213,7 +248,10 @@ void gira(const std::function<bool()>& continua) {
     while (!e.fim && continua()) {
         Evento ev;
         bool fez = false;
-        if (chegou(ev)) {
+        if (e.fecha_pedido) {
+            atende_o_fecho();
+            fez = e.sujo = true;
+        } else if (chegou(ev)) {
             trata(ev);
             fez = true;
         } else if (dispara_um()) {
@@ -231,19 +269,20 @@ void gira(const std::function<bool()>& continua) {
             continue;
         }
         if (!hospedeiro->espera(ate_o_proximo())) e.fim = true;
+        if (voando()) e.sujo = true;
     }
     --e.nivel;
 }
 
 void pinta_dica(Pintor& p) {
-    const Controle* c = e.foco_visivel && tela_ativa() != nullptr ? tela_ativa()->foco : e.sob;
-    if (!e.dica_a_vista || c == nullptr || c->dica.empty()) return;
+    const Controle* c = e.dona_da_dica;
+    if (!e.dica_a_vista || c == nullptr) return;
     const Letra letra{.familia = Familia::legenda, .corpo = 10};
-    const auto linhas = quebra_linhas(c->dica, letra, 260);
+    const auto linhas = quebra_linhas(e.dica, letra, 260);
     double largura = 0;
     for (const std::string& linha : linhas) largura = std::max(largura, largura_texto(linha, letra));
     Retangulo r{e.x + 12, e.y + 20, largura + 14, altura_linha(letra) * static_cast<double>(linhas.size()) + 6};
-    if (e.foco_visivel) {
+    if (e.dica_do_teclado) {
         const Retangulo lugar = c->lugar();
         r.x = lugar.x + c->dona.origem_x();
         r.y = lugar.y + c->dona.origem_y() + lugar.altura + 4;
@@ -251,7 +290,7 @@ void pinta_dica(Pintor& p) {
     r.x = std::clamp(r.x, 4.0, std::max(4.0, largura_logica - r.largura - 4));
     if (r.y + r.altura > altura_logica - 4) r.y -= r.altura + 28;
     p.moldura(r, 5, 1, cor_madeira_escura, cor_papel_claro);
-    p.texto_em(c->dica, {r.x + 7, r.y + 3, r.largura - 9, r.altura - 6}, letra, Alinha::esquerda);
+    p.texto_em(e.dica, {r.x + 7, r.y + 3, r.largura - 9, r.altura - 6}, letra, Alinha::esquerda);
 }
 
 } // namespace
@@ -290,8 +329,33 @@ Controle* controle_em(double x, double y) {
     return nullptr;
 }
 
+void arma_dica(const Controle* c, bool pelo_teclado) {
+    std::string texto = texto_da_dica(c);
+    if (c == e.dona_da_dica && texto == e.dica && e.arrastado == nullptr) return;
+    if (e.dica_a_vista) e.sujo = true;
+    e.dona_da_dica = c;
+    e.dica_do_teclado = pelo_teclado;
+    e.dica = std::move(texto);
+    e.dica_a_vista = false;
+    e.hora_da_dica = e.dica.empty() ? -1 : relogio->milissegundos() + demora_da_dica;
+}
+
+void apaga_dica() {
+    if (e.dica_a_vista) e.sujo = true;
+    e.dona_da_dica = nullptr;
+    e.dica_do_teclado = e.dica_a_vista = false;
+    e.hora_da_dica = -1;
+}
+
+void esquece_o_que_espera() {
+    e.adiados.clear();
+}
+
 void esquece_controle(const Controle* c) {
-    if (e.arrastado == c) desiste_do_arraste();
+    if (e.arrastado == c) e.arrastado = nullptr;
+    if (e.dona_da_dica == c) apaga_dica();
+    if (e.apertado_antes == c) e.apertado_antes = nullptr;
+    if (c->dona.padrao == c) c->dona.padrao = nullptr;
     for (Controle** lembrado : {&e.sob, &e.apertado, &e.alvo, &c->dona.foco})
         if (*lembrado == c) *lembrado = nullptr;
 }
@@ -310,10 +374,13 @@ void poe_foco(Controle* c) {
 void mostra_modal(TelaId id) {
     mostra(id);
     e.apertado = nullptr;
+    e.botao = 0;
+    esquece_o_que_espera();
     gira([id] {
         return std::any_of(e.pilha.begin(), e.pilha.end(),
                            [id](const Carregada& c) { return c.id == id && c.a_vista; });
     });
+    if (Tela* t = tela_ativa(); t != nullptr && !e.fim) t->Form_Activate(); // volta a mandar quem estava por baixo
 }
 
 void laco() {
@@ -335,10 +402,13 @@ void espera_som(int ms) {
         const std::int64_t falta = ate - relogio->milissegundos();
         if (falta <= 0) break;
         Evento ev;
-        if (!hospedeiro->proximo(ev)) {
+        if (!recebe(ev)) {
             if (!hospedeiro->espera(falta)) e.fim = true;
         } else if (ev.tipo == Evento::janela) {
             pinta_tudo();
+        } else if (ev.tipo == Evento::fecha) {
+            e.fecha_pedido = true; // quem quer sair não espera pelo fim da fala
+            break;
         } else {
             e.adiados.push_back(ev); // um clique dado durante o som não se perde
         }
@@ -348,6 +418,7 @@ void espera_som(int ms) {
 void recomeca_laco() {
     descarrega_tudo();
     e = EstadoDoLaco{};
+    na_saida = false;
 }
 
 } // namespace verdalia

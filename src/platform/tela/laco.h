@@ -6,6 +6,9 @@
 
 namespace verdalia {
 
+// As perguntas da saída estão abertas: fechar a janela outra vez não acrescenta nada.
+extern bool na_saida;
+
 // Roda até `termina` ou até que não haja tela.
 void laco();
 // O jogo acaba: todos os laços aninhados voltam.

@@ -44,10 +44,10 @@ bool ListaSuspensa::teclado(const Tecla& t) {
         escolhe(escolhido + 1);
         return true;
     case SDLK_SPACE:
-        esta_aberta = !esta_aberta;
-        return true;
     case SDLK_RETURN:
     case SDLK_KP_ENTER:
+        esta_aberta = !esta_aberta;
+        return true;
     case SDLK_ESCAPE:
         if (!esta_aberta) return false;
         esta_aberta = false;

@@ -9,6 +9,15 @@ namespace verdalia {
 
 namespace {
 
+// A luz que a cor dá, de 0 a 1.
+double luminancia(Cor c) {
+    const auto linear = [](std::uint8_t v) {
+        const double x = v / 255.0;
+        return x <= 0.03928 ? x / 12.92 : std::pow((x + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(c.r) + 0.7152 * linear(c.g) + 0.0722 * linear(c.b);
+}
+
 std::uint32_t na_cor(const SDL_Surface* s, Cor c) {
     return SDL_MapRGB(s->format, c.r, c.g, c.b);
 }
@@ -60,6 +69,15 @@ const Escrito& escreve(std::string_view texto, const Letra& letra, double largur
 }
 
 } // namespace
+
+double contraste(Cor a, Cor b) {
+    const double la = luminancia(a), lb = luminancia(b);
+    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+Cor tinta_sobre(Cor fundo) {
+    return contraste(cor_tinta_escura, fundo) >= contraste(cor_tinta_clara, fundo) ? cor_tinta_escura : cor_tinta_clara;
+}
 
 Pintor::Pintor(SDL_Surface* superficie) : alvo(superficie) {
     escala = std::min(alvo->w / double{largura_logica}, alvo->h / double{altura_logica});
@@ -123,6 +141,15 @@ void Pintor::contorno(const Retangulo& r, double espessura, Cor cor) {
     retangulo({r.x + r.largura - espessura, r.y, espessura, r.altura}, cor);
 }
 
+void Pintor::anel(const Retangulo& r) {
+    const auto em_volta = [&r](double folga) {
+        return Retangulo{r.x - folga, r.y - folga, r.largura + 2 * folga, r.altura + 2 * folga};
+    };
+    contorno(em_volta(5), 1.5, cor_tinta_clara);
+    contorno(em_volta(3.5), 3, cor_foco);
+    contorno(em_volta(0.5), 1, cor_tinta_clara);
+}
+
 void Pintor::imagem(Imagem& figura, const Retangulo& r) {
     SDL_Rect q = na_janela(r);
     if (SDL_Surface* pronta = figura.no_tamanho(q.w, q.h)) {
@@ -152,6 +179,16 @@ void Pintor::texto_em(std::string_view texto, const Retangulo& r, const Letra& l
         y += escrito.passo;
     }
     recorta();
+}
+
+void Pintor::texto_que_cabe(std::string_view texto, const Retangulo& r, Letra letra) {
+    constexpr double menor_corpo = 5;
+    for (; letra.corpo > menor_corpo; letra.corpo -= 0.5) {
+        int largura = 0;
+        TTF_SizeUTF8(fonte(letra, escala), std::string(texto).c_str(), &largura, nullptr);
+        if (largura <= r.largura * escala && largura_texto(texto, letra) <= r.largura) break;
+    }
+    texto_em(texto, r, letra);
 }
 
 void Pintor::recorta(const Retangulo& r) {

@@ -30,11 +30,15 @@ struct Pintor {
     void moldura(const Retangulo& r, double raio, double espessura, Cor cor, Cor miolo);
     // Só as quatro bordas, sem tocar no meio.
     void contorno(const Retangulo& r, double espessura, Cor cor);
+    // O anel em volta do que está em foco, ou do que vai receber um arraste.
+    void anel(const Retangulo& r);
     void imagem(Imagem& figura, const Retangulo& r);
     // Uma linha de texto com o canto de cima em (x, y).
     void texto(std::string_view texto, double x, double y, const Letra& letra);
     // Texto quebrado e alinhado dentro do retângulo, centrado na altura; o que não cabe é cortado.
     void texto_em(std::string_view texto, const Retangulo& r, const Letra& letra, Alinha alinha = Alinha::centro);
+    // Texto de uma linha, centrado, que diminui até caber no retângulo.
+    void texto_que_cabe(std::string_view texto, const Retangulo& r, Letra letra);
     // Limita o desenho ao retângulo; sem argumento, desfaz.
     void recorta(const Retangulo& r);
     void recorta();

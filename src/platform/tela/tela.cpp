@@ -36,6 +36,17 @@ void pinta_moldura(const Tela& t, Pintor& p) {
     }
 }
 
+// O lugar que cabe à tela na pilha: um diálogo fica por cima de tudo; uma tela inteira, logo abaixo dos diálogos
+// abertos.
+void sobe_na_pilha(TelaId id) {
+    auto& pilha = estado_do_laco.pilha;
+    const auto aqui = std::find_if(pilha.begin(), pilha.end(), [id](const Carregada& c) { return c.id == id; });
+    auto ate = pilha.end();
+    if (!aqui->tela->dialogo)
+        ate = std::find_if(aqui + 1, pilha.end(), [](const Carregada& c) { return c.a_vista && c.tela->dialogo; });
+    std::rotate(aqui, aqui + 1, ate);
+}
+
 } // namespace
 
 Tela::Tela(std::string nome_dado) : nome(std::move(nome_dado)) {}
@@ -62,7 +73,11 @@ void Tela::descarta(std::unique_ptr<Controle> controle) {
 }
 
 double Tela::origem_y() const {
-    return (altura_logica - altura) / 2 + (dialogo ? altura_do_titulo / 2 : 0);
+    if (!dialogo) return (altura_logica - altura) / 2;
+    const double margem = borda_do_dialogo + 4;
+    const double em_cima = altura_do_titulo + margem, embaixo = altura_logica - altura - margem;
+    if (evita.altura == 0) return (altura_logica - altura + altura_do_titulo) / 2;
+    return evita.y + evita.altura < embaixo - em_cima ? embaixo : em_cima;
 }
 
 Retangulo Tela::caixa_de_fechar() const {
@@ -71,14 +86,14 @@ Retangulo Tela::caixa_de_fechar() const {
 
 void Tela::pinta(Pintor& p) {
     if (dialogo) pinta_moldura(*this, p);
-    const Retangulo miolo{origem_x(), origem_y(), largura, altura};
-    if (!fundo || fundo->falta) p.retangulo(miolo, cor_fundo);
-    if (fundo) p.imagem(*fundo, miolo);
+    const Retangulo dentro = miolo();
+    if (!fundo || fundo->falta) p.retangulo(dentro, cor_fundo);
+    if (fundo) p.imagem(*fundo, dentro);
     for (Controle* c : controles) {
         if (!c->a_vista()) continue;
         Retangulo r = c->lugar();
-        r.x += miolo.x;
-        r.y += miolo.y;
+        r.x += dentro.x;
+        r.y += dentro.y;
         c->pinta(p, r);
     }
 }
@@ -87,10 +102,7 @@ void arruma(Tela& tela, std::span<const Lugar> lugares) {
     for (const Lugar& l : lugares) {
         Controle* c = tela.controle(l.nome, l.indice);
         if (c == nullptr) throw std::logic_error(tela.nome + ": não há controle " + l.nome);
-        c->esquerda = l.esquerda;
-        c->topo = l.topo;
-        c->largura = l.largura;
-        c->altura = l.altura;
+        c->fica_em({l.esquerda, l.topo, l.largura, l.altura});
         c->texto = l.texto;
         c->dica = l.dica;
     }
@@ -119,23 +131,19 @@ bool carregada(TelaId id) {
 
 void mostra(TelaId id) {
     Tela& tela = carrega(id);
-    auto& pilha = estado_do_laco.pilha;
-    auto aqui = std::find_if(pilha.begin(), pilha.end(), [id](const Carregada& c) { return c.id == id; });
-    aqui->a_vista = true;
-    // Sobe até encostar por baixo nos diálogos abertos; um diálogo sobe até o topo.
-    while (aqui + 1 != pilha.end() && (tela.dialogo || !((aqui + 1)->a_vista && (aqui + 1)->tela->dialogo))) {
-        std::iter_swap(aqui, aqui + 1);
-        ++aqui;
-    }
+    achada(id)->a_vista = true;
+    sobe_na_pilha(id);
     desiste_do_arraste();
     estado_do_laco.sob = nullptr;
     estado_do_laco.foco_x = -1;
     estado_do_laco.sujo = true;
+    apaga_dica();
     tela.Form_Activate();
-    // Num diálogo, Enter responde sem que se procure o botão.
-    if (tela.dialogo && tela.foco == nullptr)
-        for (Controle* c : tela.controles)
-            if (tela.foco == nullptr && c->interage()) tela.foco = c;
+    if (!tela.dialogo) return;
+    // Enter responde sem que se procure o botão.
+    for (Controle* c : tela.controles)
+        if (tela.foco == nullptr && c->interage()) tela.foco = c;
+    tela.padrao = tela.foco;
 }
 
 void esconde(Tela& tela) {
@@ -153,8 +161,7 @@ void descarrega(Tela& tela) {
     tela.Form_Unload();
     for (Controle* c : tela.controles) esquece_controle(c);
     // O que o jogador fez enquanto a tela falava era para ela, e não para a que vem.
-    if (!tela.dialogo)
-        std::erase_if(estado_do_laco.adiados, [](const Evento& adiado) { return adiado.tipo != Evento::fecha; });
+    if (!tela.dialogo) esquece_o_que_espera();
     estado_do_laco.telas_descartadas.push_back(std::move(aqui->tela));
     pilha.erase(aqui);
     estado_do_laco.sujo = true;

@@ -25,29 +25,35 @@ struct Tela {
     bool dialogo = false;
     bool fechavel = false;       // o diálogo mostra a caixa de fechar
     bool solta_no_fundo = false; // um arraste pode cair no fundo da tela: o teclado o oferece como alvo
+    Retangulo evita{};           // o diálogo sobe ou desce para não cobrir isto, em pixels da janela
     double largura = largura_logica, altura = altura_logica;
 
     std::vector<Controle*> controles;
     std::vector<Temporizador*> temporizadores;
+    std::vector<Retangulo> paineis; // as partes da tela na ordem em que se leem; o Tab vai de uma à outra
     Controle* foco = nullptr;
+    Controle* padrao = nullptr; // num diálogo, quem responde ao Enter quando nada tem o foco
 
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
     virtual void Form_Unload() {}
     virtual void Form_Click() {}
-    virtual void Form_DragDrop(const Arraste&) {}
-    virtual void Form_DragOver() {} // um arraste passa pelo fundo
-    // O jogador pediu para fechar: caixa de fechar, Esc num diálogo, fecho da janela. Nas telas inteiras, a saída do
-    // jogo.
+    // Um arraste caiu no fundo; falso quando nada havia que fazer com ele, e a figura volta ao seu lugar.
+    virtual bool Form_DragDrop(const Arraste&) { return false; }
+    virtual void Form_DragOver() {}       // um arraste passa pelo fundo
+    virtual void desistiu_do_arraste() {} // o jogador, ou um diálogo, o desfez antes de cair
+    // O jogador pediu para fechar: num diálogo, a caixa de fechar ou Esc; numa tela inteira, o fecho da janela, que é
+    // a saída do jogo. Com diálogos abertos, o fecho da janela os fecha antes, um por um.
     virtual void pede_fechar();
 
     // O controle pelo nome e número; nulo se não há.
     Controle* controle(std::string_view nome_procurado, int indice = -1) const;
     // Guarda um controle tirado da tela até que nenhum evento o esteja usando.
     void descarta(std::unique_ptr<Controle> controle);
-    // O canto do miolo na janela, em pixels lógicos.
+    // O canto do miolo e a moldura inteira na janela, em pixels lógicos.
     double origem_x() const { return (largura_logica - largura) / 2; }
     double origem_y() const;
+    Retangulo miolo() const { return {origem_x(), origem_y(), largura, altura}; }
     Retangulo caixa_de_fechar() const;
     void pinta(Pintor& p);
 

@@ -56,7 +56,11 @@ struct Bancada : Tela {
         nome_.maximo = 4;
     }
     void Form_Click() override { feitos.push_back("fundo"); }
-    void Form_DragDrop(const Arraste& a) override { feitos.push_back("fora " + a.fonte->nome); }
+    bool Form_DragDrop(const Arraste& a) override {
+        feitos.push_back("fora " + a.fonte->nome);
+        return false;
+    }
+    void desistiu_do_arraste() override { feitos.push_back("desistiu"); }
 };
 
 struct Caixa : Tela {
@@ -129,7 +133,7 @@ TEST_F(Laco, TabPercorreTodosOsControlesEVolta) {
     std::vector<std::string> visitados;
     for (int i = 0; i < 9; ++i) roteiro.tecla(SDLK_TAB).confere([&] { visitados.push_back(bancada.foco->nome); });
     laco();
-    EXPECT_EQ(visitados, (Lista{"botao", "marca", "lista", "nome", "muda", "opcao", "muda", "opcao", "botao"}));
+    EXPECT_EQ(visitados, (Lista{"botao", "marca", "lista", "muda", "muda", "opcao", "opcao", "nome", "botao"}));
 }
 
 TEST_F(Laco, CaixaDeTextoListaMarcaEOpcao) {
