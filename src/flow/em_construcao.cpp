@@ -9,6 +9,8 @@ void em_construcao::Form_Load() {
 }
 
 void em_construcao::Form_Activate() {
+    if (avisou) return;
+    avisou = true;
     avisa("Em construção", "Esta parte do jogo ainda está em construção. Vamos voltar.");
     descarrega(*this);
     mostra(TelaId::INTRONEW);

@@ -5,6 +5,8 @@
 namespace verdalia {
 
 struct em_construcao : Tela {
+    bool avisou = false;
+
     em_construcao() : Tela("em_construcao") {}
     void Form_Load() override;
     void Form_Activate() override;

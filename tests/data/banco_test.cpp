@@ -147,8 +147,8 @@ TEST_F(Banco, LembrancaEstranhaNaoCustaOCanteiroEOQueSePerderiaFicaCopiado) {
     EXPECT_NE(avisos_do_banco[0].find("hortas00 2026-03-04.mdb"), std::string::npos) << avisos_do_banco[0];
     EXPECT_EQ(na_pasta().size(), 1U); // a cópia espera pela gravação
     for (int vez = 0; vez < 2; ++vez) grava_canteiros();
-    EXPECT_EQ(na_pasta().size(), 2U);
     EXPECT_EQ(conteudo(jogador / "hortas00 2026-03-04.mdb"), como_estava);
+    EXPECT_FALSE(fs::exists(jogador / "hortas00 2026-03-04 (2).mdb"));
 }
 
 TEST_F(Banco, ArquivoRuimEPostoDeLado) {

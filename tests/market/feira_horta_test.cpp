@@ -170,8 +170,8 @@ TEST_F(Feira, SoOTecladoPedeTiraEVaiParaAHorta) {
     roteiro.teclas({SDLK_TAB, SDLK_TAB, SDLK_TAB, SDLK_DOWN});
     roteiro.teclas({SDLK_RETURN, SDLK_SPACE, SDLK_PLUS, SDLK_KP_PLUS, SDLK_MINUS});
     mostra_contas("6|3 x", {qt_rucula});
-    // Shift+Tab volta pela ponta: sair, horta.
-    for (int i = 0; i < plc_rucula + 2; ++i) roteiro.tecla(SDLK_TAB, true);
+    // Shift+Tab volta pela ponta: o caminho da horta é o último que se lê.
+    for (int i = 0; i < plc_rucula + 1; ++i) roteiro.tecla(SDLK_TAB, true);
     roteiro.tecla(SDLK_RETURN).esta_em("trabalhando_na_horta");
     abre();
     EXPECT_TRUE(auto_abastecido);

@@ -38,6 +38,7 @@ void comeca_arraste(Controle* c, bool pelo_teclado) {
     e.arrastado = c;
     e.alvo = nullptr;
     e.pelo_teclado = pelo_teclado;
+    e.botao_de_antes = 0; // o aperto que virou arraste não é o primeiro de um clique duplo
     e.figura_do_arraste = c->figura ? carrega_figura(c->figura->caminho) : nullptr;
     apaga_dica();
     e.voo_comeca = -1;

@@ -6,6 +6,11 @@
 
 namespace verdalia {
 
+BarraRolagem::BarraRolagem(Tela& tela, std::string nome_dado, int indice_dado)
+    : Controle(tela, std::move(nome_dado), indice_dado) {
+    cliques_rapidos = true;
+}
+
 double BarraRolagem::tamanho_do_cursor() const {
     const double faixa = maximo - minimo + pagina;
     return std::max(18.0, comprimento() * pagina / std::max(1.0, faixa));

@@ -5,7 +5,7 @@
 namespace verdalia {
 
 struct BarraRolagem : Controle {
-    using Controle::Controle;
+    BarraRolagem(Tela& dona, std::string nome, int indice = -1);
 
     int minimo = 0, maximo = 0, valor = 0;
     int passo = 1;   // setas e roda

@@ -10,6 +10,7 @@ namespace verdalia {
 ListaSuspensa::ListaSuspensa(Tela& tela, std::string nome_dado, int indice_dado)
     : Controle(tela, std::move(nome_dado), indice_dado) {
     letra = {.corpo = 12};
+    cliques_rapidos = true;
 }
 
 Retangulo ListaSuspensa::aberta() const {

@@ -125,7 +125,7 @@ TEST_F(Laco, TecladoLevaFocoAcionaEArrasta) {
     // A letra sublinhada aciona o botão; com a caixa de texto em foco, é só uma letra.
     roteiro.tecla(SDLK_o).clica("nome").tecla(SDLK_o).escreve("o");
     laco();
-    EXPECT_EQ(feitos, (Lista{"clique na muda", "caiu muda0 em 30", "botão"}));
+    EXPECT_EQ(feitos, (Lista{"clique na muda", "caiu muda0 em 30", "desistiu", "botão"}));
     EXPECT_EQ(bancada.nome_.texto, "o");
 }
 

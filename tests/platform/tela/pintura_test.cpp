@@ -105,7 +105,12 @@ TEST_F(Pintura, ImpressaoAvancaMedeEQuebraIgualEmQualquerTamanho) {
     EXPECT_GT(media(*roteiro.janela, {100, 100, 400, 300})[0], 254);
     const Letra letra{.corpo = 12};
     EXPECT_EQ(quebra_linhas("um  dois\ntrês", letra, 1000), (std::vector<std::string>{"um  dois", "três"}));
-    EXPECT_EQ(quebra_linhas("palavracomprida curta", letra, 20).size(), 2U);
+    std::string junta;
+    for (const std::string& linha : quebra_linhas("um /pasta/açãocomprida/hortas00.mdb", letra, 60)) {
+        EXPECT_LE(largura_texto(linha, letra), 60) << linha;
+        junta += linha;
+    }
+    EXPECT_EQ(junta, "um/pasta/açãocomprida/hortas00.mdb"); // nada se perde, e nenhuma letra se parte
     EXPECT_NEAR(largura_texto("Chicória", letra) * 2, largura_texto("Chicória", {.corpo = 24}), 1);
 }
 
