@@ -15,6 +15,7 @@ struct Carregada {
 struct EstadoDoLaco {
     std::vector<Carregada> pilha; // de baixo para cima
     bool fim = false;
+    bool com_falha = false;
     bool sujo = true;
     int nivel = 0;         // laços aninhados
     double x = -1, y = -1; // o mouse, em pixels lógicos da janela

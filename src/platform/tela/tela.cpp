@@ -11,6 +11,7 @@ namespace {
 
 std::span<const FabricaDeTela> fabricas;
 void (*ao_fechar)() = nullptr;
+void (*ao_encerrar)() = nullptr;
 
 constexpr double altura_do_titulo = 32;
 constexpr double borda_do_dialogo = 8;
@@ -96,9 +97,15 @@ void arruma(Tela& tela, std::span<const Lugar> lugares) {
     }
 }
 
-void registra_telas(std::span<const FabricaDeTela> todas, void (*ao_fechar_a_janela)()) {
+void registra_telas(std::span<const FabricaDeTela> todas, void (*ao_fechar_a_janela)(), void (*ao_encerrar_o_jogo)()) {
     fabricas = todas;
     ao_fechar = ao_fechar_a_janela;
+    ao_encerrar = ao_encerrar_o_jogo;
+}
+
+void encerra() {
+    if (ao_encerrar != nullptr) return ao_encerrar();
+    termina();
 }
 
 Tela& carrega(TelaId id) {
@@ -154,7 +161,9 @@ void descarrega(Tela& tela) {
     for (Controle* c : tela.controles) esquece_controle(c);
     // O que o jogador fez enquanto a tela falava era para ela, e não para a que vem.
     if (!tela.dialogo)
-        std::erase_if(estado_do_laco.adiados, [](const Evento& adiado) { return adiado.tipo != Evento::fecha; });
+        std::erase_if(estado_do_laco.adiados, [](const Evento& adiado) {
+            return adiado.tipo != Evento::fecha && adiado.tipo != Evento::encerra;
+        });
     estado_do_laco.telas_descartadas.push_back(std::move(aqui->tela));
     pilha.erase(aqui);
     estado_do_laco.sujo = true;
