@@ -15,10 +15,8 @@ using namespace verdalia;
 namespace {
 
 int joga() {
-    const auto janela = abre_janela("Verdalia");
-    hospedeiro = janela.get();
     abre_fontes();
-    registra_telas(fabricas_do_jogo, sai_do_jogo);
+    registra_telas(fabricas_do_jogo, sai_do_jogo, encerra_ja);
     std::string recusa;
     try {
         if (!trava_partida()) recusa = "O jogo já está aberto em outra janela.";
@@ -32,7 +30,7 @@ int joga() {
     }
     mostra(TelaId::fundo);
     laco();
-    return 0;
+    return terminou_com_falha() ? 1 : 0;
 }
 
 } // namespace
@@ -41,14 +39,17 @@ int main() {
     // As figuras grandes vivem pouco: com o limite fixo, a memória delas volta logo ao sistema.
     mallopt(M_MMAP_THRESHOLD, 256 * 1024);
     int saiu = 1;
+    std::unique_ptr<Hospedeiro> janela; // vive mais que as telas, que ao sair ainda lhe podem pedir algo
     try {
+        janela = abre_janela("Verdalia");
+        hospedeiro = janela.get();
         saiu = joga();
-        recomeca_laco();
     } catch (const std::exception& erro) {
         std::fprintf(stderr, "verdalia: %s\n", erro.what());
-        recomeca_laco();
         SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_ERROR, "Verdalia", erro.what(), nullptr);
     }
+    recomeca_laco();
+    janela.reset();
     fecha_fontes();
     return saiu;
 }

@@ -70,9 +70,8 @@ struct Roteiro : Hospedeiro {
     Roteiro& escreve(const char* letras) {
         return passo([=, this] { agora({Evento{.tipo = Evento::texto, .escrito = letras}}); });
     }
-    Roteiro& fecha_janela() {
-        return passo([this] { agora({Evento{.tipo = Evento::fecha}}); });
-    }
+    Roteiro& fecha_janela() { return so_um(Evento::fecha); }
+    Roteiro& encerra() { return so_um(Evento::encerra); }
     Roteiro& espera_ms(std::int64_t ms) {
         return passo([=, this] { acorda_em = tempo.ms + ms; });
     }
@@ -149,6 +148,9 @@ private:
     Roteiro& diz(const char* caixa, const char* esperado) {
         return esta_em(caixa).confere([=] { EXPECT_EQ(tela_ativa()->titulo + "|" + msg_texto, esperado); });
     }
+    Roteiro& so_um(Evento::Tipo tipo) {
+        return passo([=, this] { agora({Evento{.tipo = tipo}}); });
+    }
     Roteiro& passo(std::function<void()> p) {
         passos.push_back(std::move(p));
         return *this;
@@ -207,7 +209,7 @@ struct PartidaNaTela : Partida {
         som_ligado = musica_ligada = auto_abastecido = false;
         anim_acao = anim_quadros = 0;
         abre_fontes();
-        registra_telas(fabricas_do_jogo, sai_do_jogo);
+        registra_telas(fabricas_do_jogo, sai_do_jogo, encerra_ja);
     }
     ~PartidaNaTela() override {
         EXPECT_TRUE(roteiro.feito()) << "o jogo acabou antes do roteiro";

@@ -32,7 +32,8 @@ void fundo::Form_Activate() {
     som_ligado = false;
     musica_ligada = false;
     primeira_carga = true;
-    if (!tenta_no_banco("Atenção ...", "O jogo não pode começar sem esse arquivo.", prepara_banco)) return termina();
+    if (!tenta_no_banco("Atenção ...", "O jogo não pode começar sem esse arquivo.", prepara_banco))
+        return termina(true);
     mostra_avisos_do_banco();
     mostra_modal(TelaId::Conf_cd);
 }

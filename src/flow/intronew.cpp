@@ -148,7 +148,7 @@ void INTRONEW::Form_Load() {
     nome_banco = "\\hortas0" + std::to_string(num_banco) + ".mdb";
     if (primeira_carga && !tenta_no_banco("Atenção ...", "A horta guardada não foi tocada; o jogo vai fechar.",
                                           [this] { primeira_carga_da_partida(); }))
-        return termina();
+        return termina(true);
     carga_4_botões();
 }
 

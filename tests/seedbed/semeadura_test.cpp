@@ -38,7 +38,9 @@ TEST_F(Sementeira, OcupadaLeiraSobreLeiraEFundoNaoMudamNada) {
     for (const auto& [x, y] : {std::pair{185.5, 280}, {361.5, 280}, {185.5, 340}, {900, 280}})
         roteiro.arrasta("Image3", 3, x, y);
     // A terra embaixo da muda é a mesma leira.
-    roteiro.arrasta("c_alf", -1, 420, 575).arrasta("c_alf", -1, 317.5, 340).aviso("Ocupado ...|Este 'lote' está ocupado");
+    roteiro.arrasta("c_alf", -1, 420, 575)
+        .arrasta("c_alf", -1, 317.5, 340)
+        .aviso("Ocupado ...|Este 'lote' está ocupado");
     leva_para_fora(0).esta_em("controle_da_sementeira"); // vazia: não se carrega
     laco();
     EXPECT_EQ(horta(), antes);

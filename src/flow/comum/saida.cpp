@@ -8,9 +8,13 @@
 #include "flow/regras/calendario.h"
 #include "platform/tela/laco.h"
 
+#include <cstdio>
+
 namespace verdalia {
 
 namespace {
+
+bool ja_decidiu = false; // o jogador já disse se salva, e só falta ver as pendências
 
 bool ha_pendencias() {
     return falta_plantar() || pend_canteiro() == 1 || pend_leira() == 1 || falta_semear();
@@ -40,7 +44,9 @@ void faz_as_perguntas() {
     fala("\\s2.wav", sem_esperar);
     if (!grava_se_quer()) return;
     volta_ao_tempo_real(); // o que está por fazer é o de hoje, e não o de uma previsão
+    ja_decidiu = true;
     if (ha_pendencias()) mostra_quadro("Pendências", "\\anima\\noaca.jpg");
+    ja_decidiu = false;
     termina();
 }
 
@@ -54,6 +60,17 @@ void sai_do_jogo() {
     na_saida = true;
     faz_as_perguntas();
     na_saida = false;
+}
+
+void encerra_ja() {
+    bool gravou = true;
+    try {
+        if (!primeira_carga && !ja_decidiu) grava_tudo();
+    } catch (const ErroBanco& erro) {
+        std::fprintf(stderr, "verdalia: a horta não foi gravada: %s\n", erro.what());
+        gravou = false;
+    }
+    termina(!gravou);
 }
 
 } // namespace verdalia

@@ -10,4 +10,8 @@ void sai_do_jogo();
 // "Deseja salvar ?"; a resposta fica em `resposta_sim`.
 void pergunta_gravar();
 
+// O sistema manda acabar já (fim da sessão, desligamento): grava sem perguntar e termina. Uma previsão não se grava, só
+// o estado verdadeiro; antes da primeira carga não há o que gravar. O que não se pôde gravar é dito em stderr.
+void encerra_ja();
+
 } // namespace verdalia

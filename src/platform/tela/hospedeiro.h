@@ -8,7 +8,8 @@
 namespace verdalia {
 
 struct Evento {
-    enum Tipo { move, aperta, solta, roda, tecla, texto, janela, fecha };
+    // `fecha`: o jogador fecha a janela. `encerra`: o sistema manda acabar já, e não há a quem perguntar.
+    enum Tipo { move, aperta, solta, roda, tecla, texto, janela, fecha, encerra };
     Tipo tipo = janela;
     int x = 0, y = 0; // em pixels da janela
     int botao = 1;    // como em Mouse; na roda, o passo (positivo para cima)

@@ -3,8 +3,11 @@
 #include "platform/base/caminhos.h"
 #include "platform/tela/aparelho_de_som.h"
 #include "platform/tela/fontes.h"
+#include "platform/tela/tela.h"
 
 #include <SDL.h>
+#include <algorithm>
+#include <csignal>
 #include <map>
 #include <stdexcept>
 
@@ -67,48 +70,99 @@ bool traduz(const SDL_Event& s, Evento& e) {
         e = {.tipo = Evento::texto, .escrito = s.text.text};
         return true;
     case SDL_WINDOWEVENT:
-        e = {.tipo = Evento::janela};
-        return s.window.event == SDL_WINDOWEVENT_EXPOSED || s.window.event == SDL_WINDOWEVENT_SIZE_CHANGED;
-    case SDL_QUIT:
-        e = {.tipo = Evento::fecha};
+        e = {.tipo = s.window.event == SDL_WINDOWEVENT_CLOSE ? Evento::fecha : Evento::janela};
+        return s.window.event == SDL_WINDOWEVENT_EXPOSED || s.window.event == SDL_WINDOWEVENT_SIZE_CHANGED ||
+               s.window.event == SDL_WINDOWEVENT_CLOSE;
+    case SDL_QUIT: // um sinal, ou o ambiente gráfico que se foi
+        e = {.tipo = Evento::encerra};
         return true;
     default:
         return false;
     }
 }
 
+// "Frase (o que a SDL disse).", ou "Frase." quando ela não disse nada.
+std::runtime_error falha(const std::string& frase) {
+    const std::string razao = SDL_GetError();
+    return std::runtime_error(frase + (razao.empty() ? "." : " (" + razao + ")."));
+}
+
+// A SDL aberta: fecha-se depois de tudo o que é dela.
+struct BibliotecaAberta {
+    BibliotecaAberta() {
+        // A SDL faz de SIGTERM e SIGINT um SDL_QUIT e acorda quem espera. O fecho da janela vem no evento dela, e
+        // assim SDL_QUIT fica sendo só a ordem de acabar.
+        SDL_SetHint(SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0");
+        if (SDL_Init(SDL_INIT_VIDEO) != 0) throw falha("Não há tela onde abrir o jogo");
+        // O terminal que se fecha vale o mesmo; quem pediu para não saber dele (nohup) continua sem saber.
+        const auto de_antes = std::signal(SIGHUP, [](int) { static_cast<void>(std::raise(SIGTERM)); });
+        if (de_antes == SIG_IGN) std::signal(SIGHUP, SIG_IGN);
+    }
+    ~BibliotecaAberta() { SDL_Quit(); }
+    BibliotecaAberta(const BibliotecaAberta&) = delete;
+    BibliotecaAberta& operator=(const BibliotecaAberta&) = delete;
+};
+
+// O pintor escreve pontos de 32 bits, com 8 por cor.
+bool serve_ao_pintor(const SDL_PixelFormat& f) {
+    return f.BytesPerPixel == 4 && f.Rloss == 0 && f.Gloss == 0 && f.Bloss == 0;
+}
+
+// Onde e de que tamanho a janela se abre: no meio do monitor em que está o mouse, com a proporção do jogo e sem tomar
+// mais que 7/8 do que as barras do ambiente deixam livre.
+SDL_Rect lugar_da_janela() {
+    SDL_Point mouse;
+    SDL_GetGlobalMouseState(&mouse.x, &mouse.y);
+    const int monitor = std::max(0, SDL_GetPointDisplayIndex(&mouse));
+    const int no_meio = static_cast<int>(SDL_WINDOWPOS_CENTERED_DISPLAY(static_cast<unsigned>(monitor)));
+    SDL_Rect livre;
+    if (SDL_GetDisplayUsableBounds(monitor, &livre) != 0) return {no_meio, no_meio, largura_logica, altura_logica};
+    const double escala = 7.0 / 8 * std::min(livre.w / double{largura_logica}, livre.h / double{altura_logica});
+    return {no_meio, no_meio, static_cast<int>(largura_logica * escala), static_cast<int>(altura_logica * escala)};
+}
+
+// O servidor X que cai no fim da sessão leva o programa por exit(), sem evento nenhum: há só este momento para gravar.
+void grava_se_o_servidor_cair() {
+    using Atende = int (*)(void* ligacao);
+    using Troca = Atende (*)(Atende);
+    void* biblioteca_do_x = SDL_LoadObject("libX11.so.6"); // a mesma que a SDL já usa
+    const auto troca = reinterpret_cast<Troca>(SDL_LoadFunction(biblioteca_do_x, "XSetIOErrorHandler"));
+    static Atende de_antes = nullptr;
+    if (troca != nullptr)
+        de_antes = troca([](void* ligacao) {
+            encerra();
+            return de_antes(ligacao);
+        });
+}
+
 struct Janela : Hospedeiro {
+    BibliotecaAberta biblioteca;
     std::unique_ptr<SDL_Window, SoltaJanela> janela;
+    Superficie intermediaria; // onde se pinta quando o formato da janela não serve ao pintor; senão, vazia
     std::map<int, std::unique_ptr<SDL_Cursor, SoltaCursor>> cursores;
     AparelhoDeSom som;
     int ponteiro_a_vista = -1;
     int largura_vista = 0, altura_vista = 0;
 
     explicit Janela(const char* titulo) {
-        // Sem aceleração: os mesmos pontos em qualquer máquina, e nada de memória de placa.
-        SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
-        if (SDL_Init(SDL_INIT_VIDEO) != 0)
-            throw std::runtime_error(std::string("Não há tela onde abrir o jogo (") + SDL_GetError() + ").");
-        // Sem tela, a SDL recua para modos em que ninguém vê nem clica nada.
         const std::string modo = SDL_GetCurrentVideoDriver();
-        if (modo == "offscreen" || modo == "dummy" || modo == "evdev") {
-            SDL_Quit();
+        // Sem tela, a SDL recua para modos em que ninguém vê nem clica nada.
+        if (modo == "offscreen" || modo == "dummy" || modo == "evdev")
             throw std::runtime_error("Não há tela onde abrir o jogo: ele precisa de um ambiente gráfico.");
+        // No X, sem aceleração: menos memória, e nada que dependa da placa. Os outros só mostram pontos por meio dela.
+        if (modo == "x11") {
+            SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+            grava_se_o_servidor_cair();
         }
-        janela.reset(SDL_CreateWindow(titulo, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, largura_logica,
-                                      altura_logica, SDL_WINDOW_RESIZABLE));
+        const SDL_Rect r = lugar_da_janela();
+        janela.reset(SDL_CreateWindow(titulo, r.x, r.y, r.w, r.h, SDL_WINDOW_RESIZABLE));
         if (!janela || SDL_GetWindowSurface(janela.get()) == nullptr)
-            throw std::runtime_error(std::string("A janela do jogo não pôde ser aberta (") + SDL_GetError() + ").");
+            throw falha("A janela do jogo não pôde ser aberta");
         SDL_SetWindowMinimumSize(janela.get(), largura_logica / 2, altura_logica / 2);
         if (const auto arquivo = acha("\\recursos\\icone64.bmp")) {
             const Superficie icone(SDL_LoadBMP(arquivo->c_str()));
             if (icone) SDL_SetWindowIcon(janela.get(), icone.get());
         }
-    }
-    ~Janela() override {
-        cursores.clear();
-        janela.reset();
-        SDL_Quit();
     }
 
     bool proximo(Evento& e) override {
@@ -132,10 +186,19 @@ struct Janela : Hospedeiro {
         if (s->w != largura_vista || s->h != altura_vista) esquece_tamanhos();
         largura_vista = s->w;
         altura_vista = s->h;
-        return s;
+        if (serve_ao_pintor(*s->format)) {
+            intermediaria.reset();
+            return s;
+        }
+        if (!intermediaria || intermediaria->w != s->w || intermediaria->h != s->h)
+            intermediaria.reset(SDL_CreateRGBSurfaceWithFormat(0, s->w, s->h, 32, SDL_PIXELFORMAT_XRGB8888));
+        return intermediaria.get();
     }
 
-    void apresenta() override { SDL_UpdateWindowSurface(janela.get()); }
+    void apresenta() override {
+        if (intermediaria) SDL_BlitSurface(intermediaria.get(), nullptr, SDL_GetWindowSurface(janela.get()), nullptr);
+        SDL_UpdateWindowSurface(janela.get());
+    }
 
     void mostra_ponteiro(int numero) override {
         if (numero == ponteiro_a_vista) return;

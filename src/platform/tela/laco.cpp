@@ -152,6 +152,9 @@ void trata(const Evento& ev) {
     case Evento::fecha:
         e.fecha_pedido = true;
         break;
+    case Evento::encerra:
+        encerra();
+        break;
     }
     // Um som esperado pelo tratador já pintou a tela, antes do que ele mudou depois.
     if (ev.tipo != Evento::move) e.sujo = true;
@@ -348,7 +351,7 @@ void apaga_dica() {
 }
 
 void esquece_o_que_espera() {
-    e.adiados.clear();
+    std::erase_if(e.adiados, [](const Evento& adiado) { return adiado.tipo != Evento::encerra; });
 }
 
 void esquece_controle(const Controle* c) {
@@ -387,18 +390,21 @@ void laco() {
     gira([] { return tela_ativa() != nullptr; });
 }
 
-void termina() {
+void termina(bool com_falha) {
     e.fim = true;
+    e.com_falha = e.com_falha || com_falha;
 }
-bool terminando() {
-    return e.fim;
+bool terminou_com_falha() {
+    return e.com_falha;
 }
 
 void espera_som(int ms) {
     const std::int64_t ate = relogio->milissegundos() + ms;
     acerta_ponteiro(); // a ampulheta de quem espera
     pinta_tudo();
-    while (!e.fim) {
+    // O sistema manda acabar: quem fala termina o que fazia sem esperar por mais som nenhum, e só então se acaba.
+    const auto tem_pressa = [] { return !e.adiados.empty() && e.adiados.front().tipo == Evento::encerra; };
+    while (!e.fim && !tem_pressa()) {
         const std::int64_t falta = ate - relogio->milissegundos();
         if (falta <= 0) break;
         Evento ev;
@@ -409,6 +415,8 @@ void espera_som(int ms) {
         } else if (ev.tipo == Evento::fecha) {
             e.fecha_pedido = true; // quem quer sair não espera pelo fim da fala
             break;
+        } else if (ev.tipo == Evento::encerra) {
+            e.adiados.push_front(ev);
         } else {
             e.adiados.push_back(ev); // um clique dado durante o som não se perde
         }

@@ -11,9 +11,10 @@ extern bool na_saida;
 
 // Roda até `termina` ou até que não haja tela.
 void laco();
-// O jogo acaba: todos os laços aninhados voltam.
-void termina();
-bool terminando();
+// O jogo acaba: todos os laços aninhados voltam. Com falha quando foi ela que o impediu de seguir.
+void termina(bool com_falha = false);
+// Algum `termina` foi com falha, desde `recomeca_laco`.
+bool terminou_com_falha();
 // Roda só a janela (sem clique nem temporizador) por `ms` milissegundos: a espera de um som.
 void espera_som(int ms);
 // Pinta agora o que está à vista.

@@ -15,6 +15,7 @@ struct Carregada {
 struct EstadoDoLaco {
     std::vector<Carregada> pilha; // de baixo para cima
     bool fim = false;
+    bool com_falha = false;
     bool sujo = true;
     int nivel = 0;         // laços aninhados
     double x = -1, y = -1; // o mouse, em pixels lógicos da janela
@@ -58,7 +59,7 @@ void poe_foco(Controle* c);
 // Marca a dica de `c`, que aparece daí a pouco; a que já foi marcada, ou dispensada com um clique, não volta.
 void arma_dica(const Controle* c, bool pelo_teclado);
 void apaga_dica();
-// O que o jogador fez durante um som, antes de ver o que agora está à vista, não vale.
+// O que o jogador fez durante um som, antes de ver o que agora está à vista, não vale; a ordem de acabar, sim.
 void esquece_o_que_espera();
 
 // arraste.cpp

@@ -11,6 +11,7 @@ namespace {
 
 std::span<const FabricaDeTela> fabricas;
 void (*ao_fechar)() = nullptr;
+void (*ao_encerrar)() = nullptr;
 
 constexpr double altura_do_titulo = 32;
 constexpr double borda_do_dialogo = 8;
@@ -108,9 +109,15 @@ void arruma(Tela& tela, std::span<const Lugar> lugares) {
     }
 }
 
-void registra_telas(std::span<const FabricaDeTela> todas, void (*ao_fechar_a_janela)()) {
+void registra_telas(std::span<const FabricaDeTela> todas, void (*ao_fechar_a_janela)(), void (*ao_encerrar_o_jogo)()) {
     fabricas = todas;
     ao_fechar = ao_fechar_a_janela;
+    ao_encerrar = ao_encerrar_o_jogo;
+}
+
+void encerra() {
+    if (ao_encerrar != nullptr) return ao_encerrar();
+    termina();
 }
 
 Tela& carrega(TelaId id) {

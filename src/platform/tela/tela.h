@@ -76,8 +76,12 @@ struct FabricaDeTela {
     TelaId id;
     std::unique_ptr<Tela> (*cria)();
 };
-// A tabela de quem está atrás de cada nome; e o que fazer quando o jogador pede para fechar a janela.
-void registra_telas(std::span<const FabricaDeTela> fabricas, void (*ao_fechar_a_janela)());
+// A tabela de quem está atrás de cada nome; o que fazer quando o jogador pede para fechar a janela, e quando o sistema
+// manda acabar já (sem isto, só se termina).
+void registra_telas(std::span<const FabricaDeTela> fabricas, void (*ao_fechar_a_janela)(),
+                    void (*ao_encerrar_o_jogo)() = nullptr);
+// Faz o que se registrou para quando o sistema manda acabar.
+void encerra();
 
 // Carrega a tela se ainda não está (Form_Load), sem a mostrar.
 Tela& carrega(TelaId id);
