@@ -55,8 +55,9 @@ bool em_previsao() {
     return data_previsao != data_hoje;
 }
 
-// Esvazia a tabela e deixa `escreve` enchê-la de novo, numa transação.
-template <typename Escreve> void reescreve(const std::string& tabela, Escreve escreve) {
+} // namespace
+
+void reescreve(const std::string& tabela, const std::function<void(Recordset&)>& escreve) {
     Database banco = area().OpenDatabase(nome_banco);
     Passo passo(area());
     banco.executa("DELETE FROM " + tabela);
@@ -65,8 +66,6 @@ template <typename Escreve> void reescreve(const std::string& tabela, Escreve es
     registros.Close();
     passo.confirma();
 }
-
-} // namespace
 
 bool le_canteiros() {
     st_cod_cult.fill(cult_nenhuma);
