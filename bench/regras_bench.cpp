@@ -1,4 +1,7 @@
-// Quanto custam as regras e a gravação. Limites: cem anos de semanas em 5 ms, uma gravação com seu fsync em 20 ms.
+// Quanto custam as regras e a gravação. Limites: cem anos de semanas em 5 ms, uma gravação com seu fsync em 20 ms,
+// como as oito listas da agenda com as tabelas do relatório.
+#include "agenda/regras/plano.h"
+#include "agenda/regras/relatorio.h"
 #include "data/banco.h"
 #include "data/estado.h"
 #include "data/plano.h"
@@ -58,6 +61,12 @@ void falta_semear_algo(benchmark::State& estado) {
 }
 BENCHMARK(falta_semear_algo);
 
+void oito_listas_de_horta_cheia(benchmark::State& estado) {
+    enche();
+    for (auto _ : estado) monta_listas();
+}
+BENCHMARK(oito_listas_de_horta_cheia)->Unit(benchmark::kMicrosecond);
+
 // Uma horta que não se esvazia: cada cultura volta à primeira semana antes de chegar ao fim.
 void uma_semana_de_horta_cheia(benchmark::State& estado) {
     enche();
@@ -101,6 +110,13 @@ void gravacao(benchmark::State& estado, void (*grava)()) {
 }
 BENCHMARK_CAPTURE(gravacao, grava_canteiros, grava_canteiros)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK_CAPTURE(gravacao, grava_semana, [] { grava_semana(hoje()); })->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK_CAPTURE(gravacao, listas_e_relatorio,
+                  [] {
+                      monta_listas();
+                      prepara_relat();
+                  })
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 BENCHMARK_CAPTURE(gravacao, prepara_e_le,
                   [] {
                       prepara_banco();

@@ -1,11 +1,15 @@
 // Medidas das telas, com o pintor de software e sem janela: abrir, pintar em dois tamanhos, acertar o tabuleiro cheio,
 // um tique da apresentação.
+#include "agenda/regras/plano.h"
+#include "agenda/regras/relatorio.h"
 #include "data/banco.h"
 #include "data/estado.h"
 #include "data/plano.h"
 #include "fabricas.h"
 #include "flow/comum/saida.h"
+#include "platform/base/arquivo.h"
 #include "platform/base/caminhos.h"
+#include "platform/tela/desenho_rpt.h"
 #include "platform/tela/laco.h"
 
 #include <benchmark/benchmark.h>
@@ -47,6 +51,7 @@ void comeca() {
     primeira_carga = false;
     for (int i = 0; i < n_canteiros; ++i) {
         st_cod_cult[i] = static_cast<std::int16_t>(i % n_culturas + 1);
+        st_nome[i] = nome_cult[st_cod_cult[i]];
         st_idade[i] = 2;
     }
 }
@@ -107,5 +112,20 @@ void tique_da_apresentacao(benchmark::State& estado) {
     descarrega_tudo();
 }
 BENCHMARK(tique_da_apresentacao)->Unit(benchmark::kMillisecond);
+
+// Do modelo e do banco ao PDF inteiro, com trabalho em todos os canteiros. Limite: 200 ms.
+void pdf_de_horta_cheia(benchmark::State& estado) {
+    comeca();
+    st_cod_cult.fill(cult_couve);
+    st_nome.fill(nome_cult[cult_couve]);
+    st_idade.fill(22);
+    monta_listas();
+    prepara_relat();
+    for (auto _ : estado) {
+        const auto modelo = entende_modelo("relatb.rpt", le_arquivo(*acha("\\relatb.rpt"), 65536));
+        benchmark::DoNotOptimize(desenha_relatorio(modelo, nome_banco, hoje()));
+    }
+}
+BENCHMARK(pdf_de_horta_cheia)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -123,7 +123,9 @@ struct Roteiro : Hospedeiro {
         ++esperas;
         if (tempo.ms >= acorda_em && passos.empty()) return false; // fim do roteiro
         const std::int64_t falta = acorda_em - tempo.ms;
-        tempo.ms += ms < 0 ? falta : std::min(ms, falta);
+        const std::int64_t passam = ms < 0 ? falta : std::min(ms, falta);
+        if (dorme) SDL_Delay(static_cast<Uint32>(passam));
+        tempo.ms += passam;
         return true;
     }
     SDL_Surface* superficie() override { return janela.get(); }
@@ -139,6 +141,7 @@ struct Roteiro : Hospedeiro {
     int duracao_dos_sons = 0;
     int pinturas = 0;
     int esperas = 0;
+    bool dorme = false; // o tempo passa de verdade: espera-se por outro programa
     Superficie janela;
 
 private:

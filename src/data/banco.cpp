@@ -73,8 +73,9 @@ void copia_o_que_estava() {
     copia_por_fazer.clear();
 }
 
-// Esvazia a tabela e deixa `escreve` enchê-la de novo, numa transação.
-template <typename Escreve> void reescreve(const std::string& tabela, Escreve escreve) {
+} // namespace
+
+void reescreve(const std::string& tabela, const std::function<void(Recordset&)>& escreve) {
     copia_o_que_estava();
     Database banco = area_do_banco().OpenDatabase(nome_banco);
     Passo passo(area_do_banco());
@@ -84,8 +85,6 @@ template <typename Escreve> void reescreve(const std::string& tabela, Escreve es
     registros.Close();
     passo.confirma();
 }
-
-} // namespace
 
 bool le_canteiros() {
     st_cod_cult.fill(cult_nenhuma);

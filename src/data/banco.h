@@ -4,6 +4,7 @@
 #include "platform/base/dao.h"
 #include "platform/base/relogio.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,10 @@ void grava_cd();
 
 // O dia em que as semanas foram postas em dia pela última vez; sem data que se entenda, o de hoje.
 Dia le_data_semana();
+
+// Esvazia uma tabela do banco e deixa `escreve` enchê-la de novo, numa transação. Lança ErroBanco, e então a tabela
+// fica como estava.
+void reescreve(const std::string& tabela, const std::function<void(Recordset&)>& escreve);
 
 // Grava a horta inteira e a data numa só transação: fica tudo ou nada.
 void grava_semana(Dia dia);

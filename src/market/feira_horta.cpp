@@ -54,7 +54,7 @@ constexpr int por_prateleira = 7;
 constexpr Retangulo primeiro_caixote{21, 92, 86, 112};
 constexpr double passo_x = 87, passo_y = 124;
 constexpr Retangulo verdura_no_caixote{5, 5, 76, 78};
-constexpr Retangulo nome_no_caixote{10, 89, 66, 22};
+constexpr Retangulo nome_no_caixote{13, 89, 60, 21};
 constexpr Retangulo conta_no_caixote{46, 3, 38, 24};
 constexpr Retangulo menos_no_caixote{3, 3, 24, 24};
 
@@ -89,7 +89,7 @@ void Caixote::pinta(Pintor& p, const Retangulo& r) {
 
 void Conta::pinta(Pintor& p, const Retangulo& r) {
     p.moldura(r, r.altura / 2, 1.5, cor_madeira_escura, cor_ouro);
-    p.texto_que_cabe(texto, {r.x + 3, r.y, r.largura - 6, r.altura}, letra);
+    p.texto_que_cabe(texto, {r.x + 3, r.y - 2, r.largura - 6, r.altura}, letra);
 }
 
 void Menos::pinta(Pintor& p, const Retangulo& r) {

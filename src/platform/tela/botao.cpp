@@ -20,7 +20,7 @@ void Botao::pinta_grafico(Pintor& p, const Retangulo& r, Imagem& face, bool afun
     if (texto.empty()) return;
     const Cor fundo = cor_fundo.a != 0 ? cor_fundo : cor_papel_claro;
     const Letra escrita{.familia = Familia::legenda, .corpo = 9, .negrito = true, .cor = tinta_sobre(fundo)};
-    p.texto_que_cabe(texto, {r.x + 4, r.y + r.altura - faixa - 3, r.largura - 8, faixa + 2}, escrita);
+    p.texto_que_cabe(texto, {r.x + 4, r.y + r.altura - faixa - 4, r.largura - 8, faixa + 2}, escrita);
 }
 
 void Botao::pinta(Pintor& p, const Retangulo& r) {

@@ -1,0 +1,17 @@
+// Arquivos inteiros: lidos de uma vez e gravados de uma vez, para que uma falta de luz deixe o velho ou o novo.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace verdalia {
+
+// Os bytes do arquivo; lança std::runtime_error, com a explicação, quando ele não pode ser lido ou passa de `maximo`.
+std::string le_arquivo(const std::filesystem::path& arquivo, std::size_t maximo);
+
+// Põe os bytes no arquivo: escreve ao lado, espera o disco e só então toma o nome. Lança std::runtime_error, com a
+// explicação, e o que havia antes fica como estava.
+void grava_arquivo(const std::filesystem::path& arquivo, std::string_view bytes);
+
+} // namespace verdalia

@@ -1,0 +1,252 @@
+#include "platform/tela/relatorio.h"
+
+#include "agenda/regras/plano.h"
+#include "agenda/regras/relatorio.h"
+#include "platform/tela/modelo_rpt.h"
+#include "roteiro.h"
+
+#include <regex>
+#include <sys/wait.h>
+
+namespace verdalia {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr Dia quarta = dia(2026, 3, 4); // da semana 10
+
+// O que outro programa escreve.
+std::string saida(const std::string& comando) {
+    std::string texto;
+    FILE* cano = popen(comando.c_str(), "r");
+    if (cano == nullptr) return texto;
+    char parte[4096];
+    while (const std::size_t lidos = std::fread(parte, 1, sizeof parte, cano)) texto.append(parte, lidos);
+    pclose(cano);
+    return texto;
+}
+
+// Uma pasta no lugar do PATH, com os programas que o teste puser nela.
+struct Impressora : PartidaNaTela {
+    Impressora() {
+        prepara_banco();
+        fs::create_directories(programas);
+        setenv("PATH", programas.c_str(), 1);
+    }
+    ~Impressora() override {
+        setenv("PATH", path.c_str(), 1);
+        while (waitpid(-1, nullptr, 0) > 0) {
+        }
+    }
+
+    void instala(const char* nome, const std::string& corpo) const {
+        escreve(programas / nome, "#!/bin/sh\n" + corpo);
+        fs::permissions(programas / nome, fs::perms::owner_all);
+    }
+    void instala_lp(const std::string& corpo) {
+        instala("lp", corpo);
+        roteiro.espera_ms(60000); // o jogador não faz nada
+    }
+    void instala_visor() const { instala("xdg-open", "/bin/cp \"$1\" " + (pasta.raiz / "visto").string() + "\n"); }
+    // Imprime o que as tabelas da memória pedem.
+    Impresso imprime(const Relatorio& relatorio) const {
+        monta_listas();
+        prepara_relat();
+        return relatorio.imprime(nome_banco, quarta);
+    }
+    fs::path arquivo(const std::string& guarda) const { return jogador / "relatorios" / (guarda + " 2026-10.pdf"); }
+    std::string pdf() const { return conteudo(arquivo("semana")); }
+    std::string texto_do_pdf(const char* nome = "semana") const {
+        return saida("PATH=" + path + " pdftotext -raw '" + arquivo(nome).string() + "' -");
+    }
+
+    const Relatorio relat{"\\relatb.rpt", "semana"};
+    const Relatorio regrot{"\\rrr.rpt", "rotacao"};
+    const std::string path = std::getenv("PATH");
+    const fs::path programas = pasta.raiz / "programas";
+};
+
+auto quantas(const std::string& texto, const char* padrao) {
+    const std::regex expressao(padrao);
+    return std::distance(std::sregex_iterator(texto.begin(), texto.end(), expressao), std::sregex_iterator());
+}
+
+// ---- As folhas
+
+TEST_F(Impressora, SemanaSemTrabalhoCabeNumaFolha) {
+    imprime(relat);
+    const std::string texto = texto_do_pdf();
+    EXPECT_TRUE(
+        texto.starts_with("Agenda da horta – semana 10\nDe domingo, 1º de março, a sábado, 7 de março de 2026\n"));
+    for (const char* parte : {"não há nada a fazer", "MAPA DA HORTA\n1 2 3 4 5 6 7 8 9 10\nA\nB\n", "Página 1 de 1"})
+        EXPECT_NE(texto.find(parte), texto.npos) << parte << " em\n" << texto;
+    EXPECT_EQ(texto.find("HORTA\nPlantio"), texto.npos);
+}
+
+TEST_F(Impressora, SemanaComumTrazOTrabalhoNaOrdemEOMapa) {
+    seq_pedido[cult_cenoura] = 2;
+    semeia(3, cult_alface, 4);
+    planta(10, cult_chicoria, 5);
+    planta(99, cult_rucula, 2);
+    imprime(relat);
+    const std::string texto = texto_do_pdf();
+    EXPECT_NE(texto.find("HORTA\nPlantio\n2m Cenoura (30 / m2)\nTransplante\n1m Alface ( 12 / m2 )\nDesbaste\n"
+                         "J 10 Rúcula\nColheita Parcial\nB 1 Chicória\nSEMENTEIRA\nTransplante\nA 4 Alface\n"),
+              texto.npos)
+        << texto;
+    EXPECT_NE(texto.find("B\nChi COP\nidade 5\nfaltam 3\nC\n"), texto.npos) << texto;
+    EXPECT_NE(texto.find("J\nRúc DES\nidade 2\nfaltam 8\n"), texto.npos) << texto;
+    const std::string letras = saida("PATH=" + path + " pdffonts '" + arquivo("semana").string() + "'");
+    EXPECT_EQ(quantas(letras, "TrueType +WinAnsi +yes"), quantas(letras, "\n") - 2) << letras; // duas linhas de título
+}
+
+TEST_F(Impressora, CemColheitasSePartemEntreLinhas) {
+    for (int i = 0; i < n_canteiros; ++i) planta(i, cult_cheiro_verde, 23);
+    for (int i = 0; i < n_leiras; ++i) semeia(i, cult_berinjela, 4);
+    imprime(relat);
+    const std::string texto = texto_do_pdf();
+    for (int i = 0; i < n_canteiros; ++i)
+        EXPECT_NE(texto.find('\n' + nome_canteiro(i) + " Cheiro Verde\n"), texto.npos) << i;
+    for (int i = 0; i < n_leiras; ++i) EXPECT_NE(texto.find('\n' + nome_leira(i) + " Berinjela\n"), texto.npos) << i;
+    EXPECT_EQ(quantas(texto, "\n[A-J] [0-9]+ "), 122);
+    // Em cada folha: o título, a seção, o grupo em cada coluna, o número.
+    EXPECT_EQ(quantas(texto, "Agenda da horta – semana 10\nDe domingo"), 3);
+    EXPECT_EQ(quantas(texto, "HORTA \\(continuação\\)\nColheita Final \\(continuação\\)\n"), 1);
+    EXPECT_EQ(quantas(texto, "\nColheita Final"), 4);
+    for (const char* numero : {"Página 1 de 3\n\f", "Página 2 de 3\n\f", "Página 3 de 3\n\f"})
+        EXPECT_NE(texto.find(numero), texto.npos) << numero;
+}
+
+TEST_F(Impressora, ARotacaoRepeteOCabecalho) {
+    st_cod_cult.fill(cult_vago);
+    st_last_i_cu.fill(cult_cheiro_verde);
+    st_last_last_i_cu[99] = cult_espinafre;
+    imprime(regrot);
+    const std::string texto = texto_do_pdf("rotacao");
+    EXPECT_EQ(quantas(texto, "\n[A-J] [0-9]+ Cheiro Verde APIÁCEAS/LILIÁCEAS Livre Livre"), 99);
+    EXPECT_EQ(quantas(texto, "\nJ 10 Cheiro Verde APIÁCEAS/LILIÁCEAS Espinafre QUENOPODIÁCEAS\n"), 1);
+    EXPECT_EQ(quantas(texto, "\nCanteiro Última verdura Família Antes dela Família\n"), quantas(texto, "\f"));
+    EXPECT_GT(quantas(texto, "\f"), 1);
+}
+
+TEST_F(Impressora, OQueSeImprimeVemDoDisco) {
+    planta(0, cult_alface, 2);
+    imprime(relat);
+    planta(0, cult_alface, 6);
+    monta_listas();
+    relat.imprime(nome_banco, quarta);
+    EXPECT_NE(texto_do_pdf().find("Limpeza\nA 1 Alface"), std::string::npos);
+}
+
+// ---- O modelo
+
+TEST_F(Impressora, EscolaMudaOModelo) {
+    escreve(jogador / "relatb.rpt", "\xEF\xBB\xBFTítulo: Horta da Escola Cecília (semana {semana})\r\n\r\n"
+                                    "LISTA: relat\r\n coluna: cultura | 180 \r\n");
+    planta(0, cult_alface, 2);
+    EXPECT_EQ(imprime(relat).onde, Impresso::so_guardado);
+    EXPECT_EQ(texto_do_pdf(), "Horta da Escola Cecília (semana 10)\nAlface\n\f");
+}
+
+TEST_F(Impressora, EnganoNoModeloDizOndeEsta) {
+    const std::pair<const char*, const char*> casos[] = {
+        {"", "linha 1: o relatório não tem nenhuma"},
+        {"título", "linha 1: faltam os dois-pontos"},
+        {"# nada\ntítulo:  ", "linha 2: falta alguma coisa"},
+        {"titulão: a", "linha 1: a palavra \"titulão\" não é conhecida aqui"},
+        {"tabela: rr\nseção: mod", "linha 2: a palavra \"seção\""},
+        {"tabela: rr\n\nlista: relat\ncoluna: trato|9", "linha 1: falta ao menos uma linha \"coluna:\""},
+        {"mapa: mapa_horta\ncoluna: ordem|9", "linha 1: falta ao menos uma linha \"célula:\""},
+        {"tabela: rr\ncoluna: mod", "linha 2: uma coluna é"},
+        {"tabela: rr\ncoluna: mod | -9", "linha 2: a largura"},
+        {"tabela: rr\ncoluna: mod | 99999999999999999999", "linha 2: a largura"},
+        {"tabela: rr\ncoluna: mod | 90\ncoluna: cult | 91", "linha 3: as colunas somam"},
+        {"tabela: rr\ncoluna: modulo | 90", "linha 2: a tabela \"rr\" não tem o campo \"modulo\""},
+        {"mapa: mapa_horta\ncoluna: ordem|9\ncélula: cultura", "linha 3: a tabela \"mapa_horta\" não tem"},
+        {"tabela: r\"r\ncoluna: mod | 90", "linha 1: o banco não tem a tabela"},
+    };
+    for (const auto& [modelo, engano] : casos) {
+        escreve(jogador / "relatb.rpt", modelo);
+        const Impresso i = imprime(relat);
+        EXPECT_EQ(i.onde, Impresso::em_lugar_nenhum) << modelo;
+        EXPECT_NE(i.frase.find(std::string("\"relatb.rpt\" tem um engano na ") + engano), std::string::npos) << i.frase;
+    }
+    escreve(jogador / "relatb.rpt", std::string(70000, '#'));
+    EXPECT_NE(imprime(relat).frase.find("\"relatb.rpt\" é grande demais"), std::string::npos);
+    EXPECT_NE(imprime({"\\nenhum.rpt", "a"}).frase.find("Falta o arquivo \"nenhum.rpt\""), std::string::npos);
+    EXPECT_EQ(pdf(), "");
+}
+
+TEST_F(Impressora, ModeloApertadoNaoTrava) {
+    for (int i = 0; i < n_canteiros; ++i) planta(i, cult_cheiro_verde, 23);
+    escreve(jogador / "relatb.rpt", "título: " + std::string(3000, 'x') +
+                                        "\nlista: relat\ncoluna: cultura | 4\nmapa: mapa_horta\ncoluna: ordem | 180\n"
+                                        "célula: cult\nnota: " +
+                                        std::string(5000, 'y'));
+    EXPECT_EQ(imprime(relat).onde, Impresso::so_guardado);
+    EXPECT_EQ(quantas(texto_do_pdf(), "Cheiro Verde"), 100);
+}
+
+// ---- A impressora
+
+TEST_F(Impressora, ImpressoraQueAceita) {
+    roteiro.dorme = true;
+    instala_visor();
+    instala_lp("read x && exit 1\n/bin/cp \"$1\" " + (pasta.raiz / "impresso").string() + "\n"); // sem entrada
+    const Impresso i = imprime(relat);
+    EXPECT_EQ(i.onde, Impresso::na_impressora) << i.frase;
+    EXPECT_EQ(conteudo(pasta.raiz / "impresso"), pdf());
+    EXPECT_TRUE(pdf().starts_with("%PDF"));
+    EXPECT_FALSE(fs::exists(pasta.raiz / "visto"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(jogador / "relatorios"), fs::directory_iterator()), 1);
+}
+
+TEST_F(Impressora, ImpressoraQueRecusaDeixaOVisor) {
+    roteiro.dorme = true;
+    instala_visor();
+    instala_lp("exit 1\n");
+    const Impresso i = imprime(relat);
+    EXPECT_EQ(i.onde, Impresso::no_visor);
+    for (const char* parte : {"não aceitou", "\"semana 2026-10.pdf\"", "relatorios"})
+        EXPECT_NE(i.frase.find(parte), std::string::npos) << i.frase;
+    while (waitpid(-1, nullptr, 0) > 0) {
+    }
+    EXPECT_EQ(conteudo(pasta.raiz / "visto"), pdf());
+}
+
+TEST_F(Impressora, ImpressoraQueNaoRespondeEInterrompida) {
+    instala_visor();
+    instala_lp("/bin/sleep 20\n");
+    const int pinturas = roteiro.pinturas;
+    const Impresso i = imprime(relat);
+    EXPECT_EQ(i.onde, Impresso::no_visor);
+    EXPECT_NE(i.frase.find("não respondeu em 10 segundos"), std::string::npos) << i.frase;
+    EXPECT_EQ(relogio_de_teste.ms, 10000);
+    EXPECT_GT(roteiro.pinturas - pinturas, 100); // a janela não congelou
+    int mortos = 0;
+    for (int fim = 0; waitpid(-1, &fim, 0) > 0;) mortos += WIFSIGNALED(fim) && WTERMSIG(fim) == SIGKILL ? 1 : 0;
+    EXPECT_EQ(mortos, 1);
+}
+
+TEST_F(Impressora, SemNadaInstaladoFicaGuardado) {
+    const Impresso i = imprime(relat);
+    EXPECT_EQ(i.onde, Impresso::so_guardado);
+    EXPECT_NE(i.frase.find("Não há impressora"), std::string::npos) << i.frase;
+    EXPECT_TRUE(pdf().starts_with("%PDF"));
+}
+
+TEST_F(Impressora, PastaQueNaoSeGravaNaoPerdeOAnterior) {
+    fs::create_directories(jogador / "relatorios" / "semana 2026-10.pdf" / "a"); // uma pasta no lugar do arquivo
+    Impresso i = imprime(relat);
+    EXPECT_EQ(i.onde, Impresso::em_lugar_nenhum);
+    EXPECT_NE(i.frase.find("\"semana 2026-10.pdf\" não pôde ser gravado"), std::string::npos) << i.frase;
+    EXPECT_EQ(std::distance(fs::directory_iterator(jogador / "relatorios"), fs::directory_iterator()), 1);
+    fs::remove_all(jogador / "relatorios");
+    escreve(jogador / "relatorios", "um arquivo no lugar da pasta");
+    i = imprime(relat);
+    EXPECT_EQ(i.onde, Impresso::em_lugar_nenhum);
+    EXPECT_NE(i.frase.find("não pôde ser criada"), std::string::npos) << i.frase;
+}
+
+} // namespace
+} // namespace verdalia
