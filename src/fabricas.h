@@ -1,6 +1,7 @@
 // Quem está atrás de cada nome de tela: a navegação inteira do jogo. Só main e os testes a incluem.
 #pragma once
 #include "flow/comum/dialogos.h"
+#include "agenda/age.h"
 #include "flow/conf_cd.h"
 #include "flow/em_construcao.h"
 #include "flow/fundo.h"
@@ -23,7 +24,7 @@ inline constexpr FabricaDeTela fabricas_do_jogo[] = {
     {TelaId::feira_horta, nova<feira_horta>},
     {TelaId::controle_da_sementeira, nova<controle_da_sementeira>},
     {TelaId::trabalhando_na_horta, nova<trabalhando_na_horta>},
-    {TelaId::age, nova<em_construcao>},
+    {TelaId::age, nova<age>},
     {TelaId::help, nova<em_construcao>},
     {TelaId::ok, nova<ok>},
     {TelaId::form_ok_nao, nova<form_ok_nao>},

@@ -95,6 +95,7 @@ inline constexpr Lugar lugares[] = {
     {"hortelino", -1, 18, 18, 80, 70, "", "Voltar para tela da Introdução"},
     {"pic_semen", -1, 20, 108, 80, 62, "", "Ir para a Sementeira"},
     {"pic_agenda", -1, 14, 202, 80, 60, "", "Ir para a Agenda"},
+    {"faixa", -1, 8, 282, 108, 66},
     {"lbl_tempo", -1, 14, 406, 76, 23, "Tempos", "Sobre os Tempos"},
     {"previsao", -1, 20, 446, 70, 68, "", "Previsão"},
     {"terra", -1, 68, 438, 23, 19, "", "Marcador da semana da previsão"},

@@ -102,6 +102,7 @@ inline constexpr Lugar lugares[] = {
     {"hortelino", -1, 20, 20, 80, 70, "", "Voltar para a tela da Introdução"},
     {"pic_horta", -1, 20, 112, 80, 62, "", "Ir para a Horta"},
     {"pic_agenda", -1, 20, 200, 80, 60, "", "Ir para a Agenda"},
+    {"faixa", -1, 8, 282, 108, 66},
     {"lbl_tempo", -1, 20, 405, 82, 23, "Tempos"},
     {"previsao", -1, 20, 446, 70, 68, "", "Previsão"},
     {"terra", -1, 78, 438, 23, 19, "", "Marcador da semana da previsão"},

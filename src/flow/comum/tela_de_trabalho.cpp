@@ -11,7 +11,6 @@ namespace {
 
 constexpr int duracao_do_passeio = 12000;
 constexpr std::int16_t quadros_do_passeio = 10000; // mais do que o passeio usa
-constexpr Retangulo lugar_da_faixa{8, 288, 108, 78};
 
 std::string semana(Momento m) {
     return std::to_string(semana_do_ano(std::chrono::floor<std::chrono::days>(m)));
@@ -57,11 +56,10 @@ void TelaDeTrabalho::prepara(const char* origem, std::span<const Lugar> lugares)
         c->alinha = Alinha::centro;
         c->letra = {.familia = Familia::legenda, .corpo = 9, .negrito = true};
     }
-    faixa.fica_em(lugar_da_faixa);
     faixa.cor_fundo = cor_previsao;
     faixa.borda = true;
     faixa.atravessa = true;
-    faixa.letra = {.familia = Familia::legenda, .corpo = 11, .negrito = true, .cor = tinta_sobre(cor_previsao)};
+    faixa.letra = {.familia = Familia::legenda, .corpo = 10, .negrito = true, .cor = tinta_sobre(cor_previsao)};
     timer_.dispara = [this] { Timer__Timer(); };
     Timer1.dispara = [this] { Timer1_Timer(); };
 }

@@ -394,6 +394,9 @@ void termina(bool com_falha) {
     e.fim = true;
     e.com_falha = e.com_falha || com_falha;
 }
+bool terminando() {
+    return e.fim;
+}
 bool terminou_com_falha() {
     return e.com_falha;
 }

@@ -13,6 +13,7 @@ extern bool na_saida;
 void laco();
 // O jogo acaba: todos os laços aninhados voltam. Com falha quando foi ela que o impediu de seguir.
 void termina(bool com_falha = false);
+bool terminando();
 // Algum `termina` foi com falha, desde `recomeca_laco`.
 bool terminou_com_falha();
 // Roda só a janela (sem clique nem temporizador) por `ms` milissegundos: a espera de um som.
