@@ -58,6 +58,9 @@ struct Roteiro : Hospedeiro {
     Roteiro& arrasta_ponto(double x1, double y1, double x2, double y2) {
         return passo([=, this] { arrasta_agora({x1, y1}, {x2, y2}); });
     }
+    Roteiro& roda(int passos) {
+        return passo([=, this] { agora({Evento{.tipo = Evento::roda, .botao = passos}}); });
+    }
     Roteiro& tecla(int codigo, bool maiuscula = false) {
         return passo([=, this] {
             agora({Evento{.tipo = Evento::tecla, .tecla_apertada = {codigo, maiuscula, false, false}}});

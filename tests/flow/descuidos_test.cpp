@@ -9,6 +9,7 @@ namespace {
 struct Descuido : PartidaNaTela {
     Descuido() { prepara_banco(); }
     void abre(TelaId tela) {
+        recomeca_laco();
         primeira_carga = false;
         auto_abastecido = auto_abastecimento();
         mostra(tela);
@@ -80,6 +81,201 @@ TEST_F(Descuido, PendenciasSaoAsDeHojeAindaNaPrevisao) {
     laco();
     le_canteiros();
     EXPECT_EQ(st_idade[0], 3);
+}
+
+TEST_F(Descuido, OSegundoApertoDeUmCliqueDuploNaoEOutroClique) {
+    planta(0, cult_alface, 2);
+    planta(1, cult_alface, 2);
+    abre(TelaId::trabalhando_na_horta);
+    auto& h = carrega_como<trabalhando_na_horta>(TelaId::trabalhando_na_horta);
+    roteiro.clica("Command2", 5).clica_duplo("txt_label", 0).confere([] { EXPECT_EQ(st_check[0], -1); });
+    roteiro.clica_duplo("previsao").confere([&] { EXPECT_EQ(data_previsao - data_hoje, std::chrono::days{7}); });
+    roteiro.espera_ms(500).clica("previsao").confere([] {
+        EXPECT_EQ(data_previsao - data_hoje, std::chrono::days{14});
+    });
+    // Num ponto em que a tela acaba de mudar também não: a pergunta que se abriu ali não foi vista.
+    roteiro.clica("tempo_real").confere([&] {
+        h.cant(0).arrasta = false;
+        h.cant(0).clique = [] { avisa("", "oi"); };
+    });
+    roteiro.confere([&] { h.txt_label(0).visivel = false; }).clica_duplo("cant", 0).aviso("|oi");
+    laco();
+    // Na feira os cliques rápidos contam.
+    abre(TelaId::feira_horta);
+    roteiro.clica_duplo("plc", 0);
+    laco();
+    EXPECT_EQ(seq_pedido[cult_couve], 2);
+}
+
+TEST_F(Descuido, EnquantoPiscamAsMarcasNaoRespondemEOFimEsperaODialogo) {
+    planta(0, cult_alface, 2);
+    planta(1, cult_cenoura, 0);
+    seq_pedido[cult_cenoura] = 1;
+    seq_pedido[cult_alface] = 1;
+    semeia(0, cult_tomate, 5);
+    abre(TelaId::trabalhando_na_horta);
+    auto& h = carrega_como<trabalhando_na_horta>(TelaId::trabalhando_na_horta);
+    roteiro.clica("Command2", 5).clica("txt_label", 0).espera_ms(350).confere([&] {
+        EXPECT_TRUE(h.txt_label(0).visivel);
+    });
+    roteiro.clica("txt_label", 0).confere([] { EXPECT_EQ(st_check[0], -1); });
+    // A mensagem aberta no meio da piscada fica; o fim dela vem depois.
+    roteiro.clica("Label3", 12).espera_ms(5000).esta_em("ok").confere([] {
+        EXPECT_EQ(tela_ativa()->titulo, "Tomate");
+    });
+    roteiro.clica("opções").espera_ms(150).confere([&] { EXPECT_EQ(h.Timergame.intervalo, 0); });
+    laco();
+    EXPECT_EQ(st_check[0], -1);
+}
+
+TEST_F(Descuido, AQuedaDecideOSeuAlvoESoOBotaoQueArrastaASolta) {
+    abre(TelaId::trabalhando_na_horta);
+    roteiro.confere([] { tela_ativa()->foco = tela_ativa()->controle("c_ber"); }).teclas({SDLK_RIGHT, SDLK_RETURN});
+    roteiro.solta(220, 226, 1).confere([] { EXPECT_EQ(st_cod_cult[10], cult_quiabo); }); // e não no canto da horta
+    roteiro.aperta(256, 58, 1).aponta(300, 300).solta(300, 300, 2).solta(304, 394, 1);
+    laco();
+    EXPECT_EQ(std::count(st_cod_cult.begin(), st_cod_cult.end(), cult_cenoura), 1);
+    EXPECT_EQ(st_cod_cult[52], cult_cenoura);
+}
+
+TEST_F(Descuido, ASerieCortadaVoltaAoRepouso) {
+    planta(0, cult_alface, 2);
+    planta(1, cult_alface, 4);
+    abre(TelaId::trabalhando_na_horta);
+    auto& h = carrega_como<trabalhando_na_horta>(TelaId::trabalhando_na_horta);
+    roteiro.clica("tempo_real").espera_ms(250).clica("hortelino").espera_ms(450).clica("Command2", 5).confere([&] {
+        EXPECT_EQ(h.tempo_real.figura->caminho, fig_dia_semana());
+        EXPECT_EQ(nome(h.hortelino.figura), "hort00.bmp");
+        EXPECT_EQ(h.hortelino.ponteiro, ponteiro_normal);
+    });
+    roteiro.espera_ms(250).clica("Command2", 7).espera_ms(250).confere([&] {
+        EXPECT_EQ(nome(h.Command2(5).figura), "li06.bmp");
+        EXPECT_NE(nome(h.Command2(7).figura), "amo05.bmp");
+    });
+    roteiro.clica("txt_label", 1).confere([&] { // o trato acabou no meio da animação
+        EXPECT_EQ(nome(h.Command2(7).figura), "amo05.bmp");
+        EXPECT_EQ(nome(h.Command2(7).figura_apagada), "amo05bw.bmp");
+    });
+    laco();
+}
+
+TEST_F(Descuido, CliqueDadoDuranteOSomNaoRespondeAoDialogoQueVemDepois) {
+    semeia(0, cult_alface, 1);
+    roteiro.duracao_dos_sons = 500;
+    abre(TelaId::controle_da_sementeira);
+    roteiro.arrasta("c_tom", -1, 185.5, 280).espera_ms(100).clica_em(396, 360).clica_em(590, 376).tecla(SDLK_RETURN);
+    roteiro.espera_ms(1000).aviso("Ocupado ...|Este 'lote' está ocupado").esta_em("controle_da_sementeira");
+    laco();
+}
+
+TEST_F(Descuido, TirarOUltimoPorMarcarAcabaOTrato) {
+    for (const int i : {0, 1}) {
+        planta(i, cult_alface, 2);
+        semeia(i, cult_alface, 2);
+    }
+    abre(TelaId::trabalhando_na_horta);
+    auto& h = carrega_como<trabalhando_na_horta>(TelaId::trabalhando_na_horta);
+    roteiro.clica("Command2", 5).clica("txt_label", 0).arrasta("cant", 1, 660, 300).tecla(SDLK_s).confere([&] {
+        EXPECT_FALSE(h.Command2(5).ativo);
+        EXPECT_NE(h.Timergame.intervalo, 0);
+    });
+    roteiro.espera_ms(2000).confere([&] { EXPECT_FALSE(h.txt_label(0).visivel); });
+    laco();
+    abre(TelaId::controle_da_sementeira);
+    auto& s = carrega_como<controle_da_sementeira>(TelaId::controle_da_sementeira);
+    roteiro.clica("Command4", 1).clica("Label4", 0).arrasta("Image3", 1, 420, 575).tecla(SDLK_s).confere([&] {
+        EXPECT_FALSE(s.Command4(1).ativo);
+        EXPECT_NE(s.Timergame.intervalo, 0);
+    });
+    laco();
+}
+
+TEST_F(Descuido, ATerraCalaAVozEOArrasteDesfeitoDeixaFalarDeNovo) {
+    som_ligado = true;
+    abre(TelaId::trabalhando_na_horta);
+    roteiro.clica_em(400, 400).confere(
+        [this] { EXPECT_EQ(roteiro.tocados, std::vector<std::string>{"\\silencio.wav"}); });
+    roteiro.aperta(256, 58, 1).aponta(262, 66).tecla(SDLK_ESCAPE).confere([this] {
+        EXPECT_EQ(falas("\\cenoura.wav"), 1);
+    });
+    roteiro.arrasta("c_bet", -1, 660, 300).confere([this] { EXPECT_EQ(falas("\\beterrab.wav"), 1); });
+    laco();
+}
+
+TEST_F(Descuido, FecharAJanelaAcabaSempreNasPerguntasDaSaida) {
+    planta(0, cult_alface, 2);
+    st_last_i_cu[11] = st_last_last_i_cu[11] = cult_alface;
+    abre(TelaId::trabalhando_na_horta);
+    const auto pergunta_se_sai = [this]() -> Roteiro& {
+        return roteiro.fecha_janela().confere([] { EXPECT_EQ(tela_ativa()->titulo, "Saindo ..."); });
+    };
+    roteiro.arrasta("c_cen", -1, 220, 184).esta_em("ok"); // ocupado
+    pergunta_se_sai().tecla(SDLK_ESCAPE).esta_em("trabalhando_na_horta").clica("lbl_tempo").esta_em("ok_help");
+    pergunta_se_sai()
+        .tecla(SDLK_n)
+        .esta_em("trabalhando_na_horta")
+        .arrasta("c_alf", -1, 262, 226)
+        .esta_em("form_ok_nao");
+    // As duas perguntas da rotação ficam sem resposta, e nada se planta.
+    pergunta_se_sai().confere([] { EXPECT_EQ(st_cod_cult[11], cult_nenhuma); }).tecla(SDLK_n);
+    // Um caminho já começado é esquecido: pergunta-se uma vez só.
+    roteiro.clica("hortelino").espera_ms(300);
+    pergunta_se_sai().tecla(SDLK_n).espera_ms(3000).esta_em("trabalhando_na_horta");
+    laco();
+    abre(TelaId::INTRONEW);
+    roteiro.clica("saida").espera_ms(300);
+    pergunta_se_sai().tecla(SDLK_n).espera_ms(3000).esta_em("INTRONEW");
+    laco();
+}
+
+TEST_F(Descuido, OndeSePerdeAlgoEnterNaoConfirma) {
+    planta(0, cult_alface, 2);
+    st_last_i_cu[11] = cult_alface;
+    abre(TelaId::trabalhando_na_horta);
+    roteiro.arrasta("cant", 0, 660, 300).esta_em("form_ok_nao").tecla(SDLK_RETURN);
+    roteiro.arrasta("c_alf", -1, 262, 226).esta_em("form_ok_nao").confere([] {
+        auto& d = carrega_como<form_ok_nao>(TelaId::form_ok_nao);
+        EXPECT_EQ(nome(d.ilustracao(0).figura) + nome(d.ilustracao(1).figura), "az_alf.bmpaz_alf.bmp");
+        // O canteiro de que se fala continua à vista.
+        EXPECT_GT(d.origem_y() - 40, 248);
+    });
+    // Um clique ao lado dos botões não deixa o Enter sem resposta.
+    roteiro.clica_em(300, 420).tecla(SDLK_RETURN).esta_em("trabalhando_na_horta");
+    laco();
+    EXPECT_EQ(st_cod_cult[0], cult_alface);
+    EXPECT_EQ(st_cod_cult[11], cult_nenhuma);
+}
+
+TEST_F(Descuido, DataGuardadaMuitoAdianteEDitaNoComeco) {
+    planta(5, cult_couve, 3);
+    for (const int dias : {7, 8}) {
+        recomeca_laco();
+        grava_semana(hoje() + std::chrono::days{dias});
+        roteiro.clica("Command1");
+        if (dias == 8)
+            roteiro.esta_em("ok")
+                .confere([] {
+                    EXPECT_NE(msg_texto.find("hoje é 4/3/2026"), std::string::npos) << msg_texto;
+                    EXPECT_NE(msg_texto.find("até 12/3/2026"), std::string::npos) << msg_texto;
+                })
+                .clica("opções");
+        roteiro.esta_em("INTRONEW");
+        mostra(TelaId::fundo);
+        laco();
+        EXPECT_EQ(st_idade[5], 3);
+    }
+}
+
+TEST_F(Descuido, AFaixaDizAPrevisaoEODialogoDeFiguraFechaComUmClique) {
+    abre(TelaId::trabalhando_na_horta);
+    auto& h = carrega_como<trabalhando_na_horta>(TelaId::trabalhando_na_horta);
+    roteiro.confere([&] { EXPECT_FALSE(h.faixa.visivel); }).clica("previsao").confere([&] {
+        EXPECT_EQ(h.faixa.texto, "Previsão: daqui a 1 semana");
+    });
+    roteiro.clica("previsao").confere([&] { EXPECT_EQ(h.faixa.texto, "Previsão: daqui a 2 semanas"); });
+    roteiro.clica("tempo_real").confere([&] { EXPECT_FALSE(h.faixa.visivel); });
+    roteiro.clica("lbl_tempo").clica_em(40, 40).esta_em("ok_help").clica_em(396, 300).esta_em("trabalhando_na_horta");
+    laco();
 }
 
 TEST_F(Descuido, LetrasEstragadasSeDescobremNoComeco) {

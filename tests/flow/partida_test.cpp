@@ -57,8 +57,8 @@ TEST_F(Centro, HortaGuardadaEnvelheceOsDomingosQuePassaram) {
         EXPECT_EQ(le_data_semana(), hoje());
     });
     // A viagem de ida e volta não recarrega nem avança nada.
-    roteiro.confere([] { planta(5, cult_cenoura, 0); }).clica("pic_agenda").espera_ms(1400).esta_em("ok");
-    roteiro.clica("opções").esta_em("INTRONEW").confere([] { EXPECT_EQ(st_cod_cult[5], cult_cenoura); });
+    roteiro.confere([] { planta(5, cult_cenoura, 0); }).clica("pic_agenda").espera_ms(1400).esta_em("age");
+    roteiro.clica("hortelino").espera_ms(1700).esta_em("INTRONEW").confere([] { EXPECT_EQ(st_cod_cult[5], cult_cenoura); });
     joga();
 }
 

@@ -2,6 +2,7 @@
 #include "roteiro.h"
 
 #include <map>
+#include <random>
 #include <set>
 
 namespace verdalia {
@@ -70,6 +71,43 @@ TEST_F(Feira, CadaCaixoteVendeUmaVerduraENaSuaEtiqueta) {
             EXPECT_EQ(contas.size(), i + 1U);
         });
     mostra_contas("67", {});
+    abre();
+}
+
+// Os caixotes e os pregões são da mesma tabela: a verdura, a sua conta e o clipe.
+TEST_F(Feira, CaixoteContaEPregaoSaoDaMesmaVerdura) {
+    const struct {
+        std::int16_t cultura;
+        int qt;
+        const char* clipe;
+    } verduras[] = {{5, 10, "couv"}, {11, 13, "nab"}, {20, 20, "vag"},   {2, 9, "chic"},  {13, 8, "chei"},
+                    {21, 14, "pep"}, {18, 6, "broc"}, {7, 4, "quiab"},   {12, 16, "rab"}, {8, 18, "ruc"},
+                    {16, 3, "beri"}, {6, 12, "esp"},  {19, 11, "cflor"}, {17, 17, "rep"}, {3, 2, "alh"},
+                    {4, 0, "agri"},  {10, 5, "bet"},  {1, 1, "alf"},     {14, 19, "tom"}, {15, 15, "pim"},
+                    {9, 7, "cen"}};
+    som_ligado = true;
+    for (int i = 0; i < 21; ++i)
+        roteiro.clica("plc", i).confere([&, i] {
+            EXPECT_EQ(seq_pedido[verduras[i].cultura], 1) << i;
+            EXPECT_EQ(conta(verduras[i].qt), "1 x") << i;
+        });
+    // O "−" do caixote tira a que se pôs, e então some.
+    for (int i = 0; i < 21; ++i)
+        roteiro.clica("menos", i).confere([&, i] {
+            EXPECT_EQ(seq_pedido[verduras[i].cultura], 0) << i;
+            EXPECT_FALSE(na_tela("menos", i).visivel) << i;
+        });
+    mostra_contas("0", {});
+    for (int vez = 0; vez < 60; ++vez)
+        roteiro
+            .confere([&] {
+                roteiro.tocados.clear();
+                const double fracao = std::mt19937(static_cast<std::uint32_t>(relogio_de_teste.ms))() / 4294967296.0;
+                carrega_como<feira_horta>(TelaId::feira_horta).grito();
+                EXPECT_EQ(roteiro.tocados.front(),
+                          dir_audio + "\\" + verduras[static_cast<int>(21 * fracao)].clipe + "-vz.wav");
+            })
+            .espera_ms(37);
     abre();
 }
 

@@ -3,6 +3,7 @@
 #include "platform/tela/botao.h"
 #include "platform/tela/caixa_texto.h"
 #include "platform/tela/figura.h"
+#include "platform/tela/laco_interno.h"
 #include "platform/tela/lista.h"
 #include "platform/tela/matriz.h"
 #include "platform/tela/opcao.h"
@@ -141,12 +142,54 @@ TEST_F(Laco, CaixaDeTextoListaMarcaEOpcao) {
     roteiro.clica("nome").escreve("çã").escreve("éî").escreve("x").teclas({SDLK_BACKSPACE, SDLK_HOME, SDLK_DELETE});
     roteiro.escreve("A");
     roteiro.clica("lista").clica_em(60, 140 + 30 * 2 + 15).confere([this] { EXPECT_EQ(bancada.lista.escolhido, 1); });
-    roteiro.tecla(SDLK_DOWN).clica("marca").clica("opcao", 0).clica("opcao", 1);
+    roteiro.tecla(SDLK_DOWN).tecla(SDLK_RETURN).confere([this] { EXPECT_TRUE(bancada.lista.esta_aberta); });
+    roteiro.tecla(SDLK_RETURN)
+        .confere([this] { EXPECT_FALSE(bancada.lista.esta_aberta); })
+        .clica("marca")
+        .clica("opcao", 0)
+        .clica("opcao", 1);
     laco();
     EXPECT_EQ(feitos, (Lista{"çã", "çãéî", "çãé", "ãé", "Aãé"})); // conta letras, e não bytes
     EXPECT_EQ(bancada.lista.escolhido, 2);
     EXPECT_TRUE(bancada.marca.marcada && bancada.opcao(1).marcada);
     EXPECT_FALSE(bancada.opcao(0).marcada);
+}
+
+TEST_F(Laco, DicaEDeQuemAChamouESoVemQuandoOMouseAnda) {
+    bancada.botao.dica = "do botão";
+    bancada.marca.dica = "da marca";
+    bancada.canteiro.dica_viva = [](double x, double) { return x < 42 ? "primeira" : "segunda"; };
+    const auto dica = [this](const char* esperada) -> Roteiro& {
+        return roteiro.confere(
+            [esperada] { EXPECT_EQ(estado_do_laco.dica_a_vista ? estado_do_laco.dica : "", esperada); });
+    };
+    roteiro.aponta(60, 40).espera_ms(500);
+    dica("").espera_ms(200);
+    dica("do botão").tecla(SDLK_TAB).tecla(SDLK_TAB);
+    dica("").espera_ms(700);
+    dica("da marca").aponta(61, 41).espera_ms(700); // o mouse, mesmo no mesmo botão, toma-a de volta
+    dica("do botão").clica("botao").espera_ms(2000);
+    dica("").aponta(310, 210).espera_ms(700); // com o clique, a dica dele já não vem
+    dica("primeira").aponta(400, 210).espera_ms(700);
+    dica("segunda");
+    // O que aparece debaixo do mouse parado não mostra dica nenhuma.
+    roteiro.aponta(85, 320).espera_ms(50).confere([this] {
+        bancada.muda(1).dica = "da muda";
+        mostra(id_bancada);
+    });
+    roteiro.espera_ms(2000);
+    dica("").aponta(86, 320).espera_ms(700);
+    dica("da muda");
+    laco();
+}
+
+TEST_F(Laco, ArrasteQueNaoCaiEmNadaVoltaVoando) {
+    roteiro.arrasta("muda", 0, 250, 30).confere([] { EXPECT_TRUE(voando()); }).espera_ms(400).confere([] {
+        EXPECT_FALSE(voando());
+    });
+    roteiro.arrasta("muda", 0, 320, 220).confere([] { EXPECT_FALSE(voando()); });
+    laco();
+    EXPECT_EQ(feitos, (Lista{"fora muda", "caiu muda0 em 0"}));
 }
 
 TEST_F(Laco, TemporizadorAndaComATelaNoAltoEComDialogoPorCima) {

@@ -1,0 +1,244 @@
+// A agenda na tela: as listas, as figuras das tarefas, a previsão, a impressão e os caminhos.
+#include "agenda/age.h"
+
+#include "agenda/regras/plano.h"
+#include "roteiro.h"
+
+#include <sqlite3.h>
+
+namespace verdalia {
+namespace {
+
+struct Agenda : PartidaNaTela {
+    Agenda() { prepara_banco(); }
+    age& abre() { return entra_em<age>(TelaId::age); }
+    // As linhas à vista de uma lista: "Alface|A 1|; Couve||B 2".
+    static std::string lista(age& a, Lista l) {
+        ListaNaTela& t = *a.na_tela[l];
+        std::string s;
+        for (int i = 0; i < 10 && !t.cultura(i).texto.empty(); ++i)
+            s += (i > 0 ? "; " : "") + t.cultura(i).texto + "|" + (t.aonde.existe(i) ? t.aonde(i).texto : "") + "|" +
+                 (t.aonde_sem.existe(i) ? t.aonde_sem(i).texto : "");
+        return s;
+    }
+    static std::string todas(age& a) {
+        std::string s;
+        for (int l = 0; l < n_listas; ++l) s += lista(a, static_cast<Lista>(l)) + "/";
+        return s;
+    }
+    std::string no_banco(const std::string& sql) const {
+        sqlite3* banco = nullptr;
+        sqlite3_open((jogador / "hortas00.mdb").c_str(), &banco);
+        std::string texto;
+        sqlite3_exec(
+            banco, sql.c_str(),
+            [](void* saida, int n, char** valores, char**) {
+                for (int i = 0; i < n; ++i)
+                    *static_cast<std::string*>(saida) += std::string(valores[i]) + (i + 1 < n ? "|" : "; ");
+                return 0;
+            },
+            &texto, nullptr);
+        sqlite3_close(banco);
+        return texto;
+    }
+};
+
+TEST_F(Agenda, MostraOTrabalhoDaSemanaComOSeuLugar) {
+    seq_pedido[cult_cenoura] = 2;
+    seq_pedido[cult_couve] = 1;
+    semeia(0, cult_alface, 4); // pronta, e ninguém pediu mais
+    semeia(1, cult_alface, 2); // limpeza
+    semeia(12, cult_chicoria, 0);
+    planta(7, cult_alface, 2);  // limpeza
+    planta(99, cult_nabo, 0);   // plantado nesta semana
+    planta(10, cult_quiabo, 4); // desbaste
+    planta(11, cult_alface, 6); // colheita parcial
+    planta(12, cult_alface, 7); // final
+    planta(13, cult_alface, 4); // amontoa
+    planta(14, cult_alface, 1); // reposição: não é da agenda
+    auto& a = abre();
+    EXPECT_EQ(todas(a), "Cenoura| 2m|; Nabo|J 10|/Couve||1x; Chicória||B 2/Alface| 1m|A 1/"
+                        "Alface||A 2; Alface|A 8|/Quiabo|B 1|/Alface|B 4|/Alface|B 2|/Alface|B 3|/");
+    EXPECT_EQ(no_banco("SELECT trato, aonde, cultura FROM relat WHERE hs = 0 AND ord < 2"),
+              "Plantio| 2m|Cenoura (30 / m2); Plantio|J 10|Nabo; Transplante| 1m|Alface  ( 12 / m2 ); ");
+}
+
+TEST_F(Agenda, ListaCompridaRolaComARodaEComOTeclado) {
+    for (int i = 0; i < 22; ++i) planta(i, cult_alface, 2);
+    planta(50, cult_couve, 3);
+    auto& a = abre();
+    BarraRolagem& barra = a.na_tela[r_li]->barra;
+    EXPECT_TRUE(barra.visivel && barra.ativo);
+    EXPECT_EQ(barra.maximo, 13);
+    EXPECT_FALSE(a.na_tela[r_tr]->barra.visivel);
+    EXPECT_TRUE(lista(a, r_li).starts_with("Alface|A 1|"));
+    roteiro.confere([&] { a.foco = &barra; }).teclas({SDLK_TAB, SDLK_DOWN}).confere([&] {
+        EXPECT_TRUE(lista(a, r_li).starts_with("Alface|A 2|"));
+        EXPECT_TRUE(lista(a, r_li).ends_with("Alface|B 1|"));
+    });
+    roteiro.tecla(SDLK_END).confere([&] { EXPECT_TRUE(lista(a, r_li).ends_with("Couve|F 1|")); });
+    roteiro.aponta(660, 200).roda(3).confere([&] { EXPECT_EQ(barra.valor, 10); });
+    // Na semana seguinte a lista é outra, e recomeça do alto, sem barra.
+    roteiro.clica("previsao").confere([&] {
+        EXPECT_EQ(barra.valor, 0);
+        EXPECT_FALSE(barra.visivel);
+        EXPECT_EQ(lista(a, r_li), "");
+    });
+    laco();
+}
+
+TEST_F(Agenda, PrevisaoVaiEVoltaComAsListasEAsTabelas) {
+    planta(0, cult_alface, 5);
+    planta(1, cult_rabanete, 4);
+    auto& a = abre();
+    const std::string de_hoje = todas(a), horta_de_hoje = horta();
+    EXPECT_EQ(no_banco("SELECT DISTINCT sem FROM relat"), "10; ");
+    roteiro.clica("previsao").confere([&] {
+        EXPECT_EQ(lista(a, r_cop), "Alface|A 1|");
+        EXPECT_EQ(lista(a, r_cof), "Rabanete|A 2|");
+        EXPECT_EQ(no_banco("SELECT DISTINCT sem FROM relat"), "11; ");
+        EXPECT_EQ(a.terra.texto, "11");
+    });
+    roteiro.espera_ms(500).clica("previsao").confere([&] {
+        EXPECT_EQ(lista(a, r_cof), "Alface|A 1|");
+        EXPECT_EQ(no_banco("SELECT mod, cult FROM rr"), "A 2|Rabanete; ");
+    });
+    roteiro.clica("tempo_real").confere([&] {
+        EXPECT_EQ(todas(a), de_hoje);
+        EXPECT_EQ(horta(), horta_de_hoje);
+        EXPECT_EQ(no_banco("SELECT COUNT(*) FROM rr"), "0; ");
+    });
+    laco();
+}
+
+TEST_F(Agenda, CadaTarefaFalaEDaASuaVolta) {
+    struct Tarefa {
+        const char* figura;
+        int indice;
+        std::int16_t cultura, idade; // um canteiro que a pede
+        const char *ha, *nao_ha, *repouso, *primeiro;
+        int tiques;
+    };
+    const Tarefa tarefas[] = {
+        {"pld", r_pld, cult_nabo, 0, "\\agepla.wav", "\\agenpla.wav", "pla06.bmp", "pla06.bmp", 61},
+        {"pls", r_pls, -1, 0, "\\agesem.wav", "\\agensem.wav", "sem08.bmp", "sem08.bmp", 79},
+        {"tr", r_tr, cult_alface, 0, "\\agetra.wav", "\\agentra.wav", "tra04.bmp", "tra04.bmp", 79},
+        {"limp", r_li, cult_alface, 2, "\\agelim.wav", "\\l2.wav", "li06.bmp", "li06.bmp", 85},
+        {"desb", r_des, cult_quiabo, 4, "\\agedes.wav", "\\d2.wav", "des06.bmp", "des06.bmp", 79},
+        {"amo", r_amo, cult_alface, 4, "\\ageamo.wav", "\\am2.wav", "amo05.bmp", "amo05.bmp", 73},
+        {"cop", r_cop, cult_alface, 6, "\\agecop.wav", "\\cp2.wav", "cop05.bmp", "cop05.bmp", 85},
+        {"cof", r_cof, cult_alface, 7, "\\agecof.wav", "\\cf2.wav", "cof07.bmp", "cof07.bmp", 85},
+    };
+    som_ligado = true;
+    for (const Tarefa& t : tarefas)
+        for (const bool ha : {false, true}) {
+            SCOPED_TRACE(t.figura);
+            esvazia();
+            if (ha && t.cultura > 0) planta(0, t.cultura, t.idade);
+            if (ha && t.cultura < 0) semeia(0, cult_alface, 0);
+            auto& a = abre();
+            const Figura& f = a.na_tela[static_cast<std::size_t>(t.indice)]->trato;
+            EXPECT_EQ(nome(f.figura), t.repouso);
+            roteiro.tocados.clear();
+            roteiro.clica(t.figura).espera_ms(105).confere([&] { EXPECT_EQ(nome(f.figura), t.primeiro); });
+            roteiro.espera_ms((t.tiques - 2) * 100).confere([&] { EXPECT_EQ(anim_quadros, 1); }).espera_ms(100);
+            roteiro.confere([&] { EXPECT_EQ(nome(f.figura), t.repouso); }).espera_ms(100);
+            roteiro.confere([&] { EXPECT_EQ(a.timer_.intervalo, 0); });
+            laco();
+            EXPECT_EQ(falas(ha ? t.ha : t.nao_ha), 1);
+            EXPECT_EQ(roteiro.tocados.size(), 1U);
+        }
+}
+
+TEST_F(Agenda, ApresentacaoGiraAsOitoEVoltaDepoisDeUmDialogo) {
+    musica_ligada = true;
+    trilha_age = "\\agfimc.wav";
+    auto& a = abre();
+    const auto figuras = [&a] {
+        std::string s;
+        for (const auto& l : a.na_tela) s += nome(l->trato.figura).substr(0, 5) + " ";
+        return s;
+    };
+    const std::string repouso = figuras();
+    roteiro.espera_ms(105).confere([&] { EXPECT_EQ(figuras(), "pla01 sem00 tra00 li00. des00 amo00 cop00 cof00 "); });
+    roteiro.clica("limp").confere([&] {
+        EXPECT_EQ(figuras(), repouso);
+        EXPECT_FALSE(a.animacao.passeio);
+    });
+    // O aviso que se fecha devolve a apresentação; o caminho da horta gasta-lhe os quadros e sai logo.
+    roteiro.clica("lbl_tempo").quadro("Tempo Real").confere([&] { EXPECT_TRUE(a.animacao.passeio); });
+    roteiro.clica("pic_horta").espera_ms(450).esta_em("trabalhando_na_horta");
+    laco();
+    EXPECT_EQ(std::count(roteiro.tocados.begin(), roteiro.tocados.end(), trilha_age), 2);
+}
+
+TEST_F(Agenda, PerguntaAntesDeImprimirEDizOndeFicou) {
+    const char* caminho = std::getenv("PATH");
+    const std::string antigo = caminho != nullptr ? caminho : "";
+    setenv("PATH", "/nao/ha/nada", 1);
+    planta(0, cult_alface, 2);
+    planta(1, cult_vago, 0);
+    abre();
+    roteiro.clica("pic_imp").espera_ms(850).pergunta("Impressão|Deseja imprimir o relatório da semana 10 ?", false);
+    roteiro.esta_em("age").confere([this] { EXPECT_FALSE(std::filesystem::exists(jogador / "relatorios")); });
+    roteiro.clica("pic_imp").espera_ms(850).clica("opções", 0).esta_em("ok").confere([] {
+        EXPECT_NE(msg_texto.find("Não há impressora"), std::string::npos) << msg_texto;
+        EXPECT_NE(msg_texto.find("Rotação: "), std::string::npos) << msg_texto;
+    });
+    roteiro.clica("opções").esta_em("age");
+    laco();
+    setenv("PATH", antigo.c_str(), 1);
+    EXPECT_TRUE(std::filesystem::exists(jogador / "relatorios" / "semana 2026-10.pdf"));
+    EXPECT_TRUE(std::filesystem::exists(jogador / "relatorios" / "rotacao 2026-10.pdf"));
+}
+
+TEST_F(Agenda, CadaSaidaLevaAoSeuLugar) {
+    som_ligado = true;
+    primeira_carga = false;
+    const struct {
+        const char* controle;
+        int indice, demora;
+        const char* fala;
+        TelaId destino;
+    } saidas[] = {{"hortelino", -1, 1550, "", TelaId::INTRONEW},
+                  {"pic_semen", -1, 950, "\\vamsem.wav", TelaId::controle_da_sementeira},
+                  {"pic_horta", -1, 1350, "\\vamhor.wav", TelaId::trabalhando_na_horta},
+                  {"Label1", 3, 10, "\\ajuda.wav", TelaId::help}};
+    for (const auto& saida : saidas) {
+        SCOPED_TRACE(saida.controle);
+        abre();
+        roteiro.tocados.clear();
+        topico_help.clear();
+        roteiro.clica(saida.controle, saida.indice).espera_ms(saida.demora).confere([&] {
+            EXPECT_TRUE(carregada(saida.destino));
+            EXPECT_FALSE(carregada(TelaId::age));
+        });
+        laco();
+        if (*saida.fala != '\0') {
+            EXPECT_EQ(falas(saida.fala), 1);
+        }
+        EXPECT_EQ(topico_help, saida.indice == 3 ? "Agenda" : "");
+        EXPECT_TRUE(saida.indice != 3 || tela_origem == "Agenda");
+    }
+}
+
+// Nada se corta: nem o nome mais comprido, nem o lugar mais comprido, nem um título.
+TEST_F(Agenda, TudoCabeNaSuaColuna) {
+    auto& a = abre();
+    for (const auto& l : a.na_tela) {
+        for (std::int16_t c = 1; c <= n_culturas; ++c)
+            EXPECT_LE(largura_texto(nome_cult[c], l->cultura(0).letra), l->cultura(0).largura) << nome_cult[c];
+        for (auto* coluna : {&l->aonde, &l->aonde_sem})
+            for (const char* lugar : {"A 10", "J 10", "B 11", " 14m", "1x"})
+                if (coluna->existe(0)) {
+                    EXPECT_LE(largura_texto(lugar, (*coluna)(0).letra), (*coluna)(0).largura) << lugar;
+                }
+    }
+    for (const auto& [i, titulo] : a.Label1)
+        EXPECT_LE(quebra_linhas(titulo->texto, titulo->letra, titulo->largura).size() * altura_linha(titulo->letra),
+                  titulo->altura + 4)
+            << titulo->texto;
+}
+
+} // namespace
+} // namespace verdalia
