@@ -223,9 +223,10 @@ TEST_F(Impressora, ImpressoraQueNaoRespondeEInterrompida) {
     EXPECT_NE(i.frase.find("não respondeu em 10 segundos"), std::string::npos) << i.frase;
     EXPECT_EQ(relogio_de_teste.ms, 10000);
     EXPECT_GT(roteiro.pinturas - pinturas, 100); // a janela não congelou
-    int mortos = 0;
-    for (int fim = 0; waitpid(-1, &fim, 0) > 0;) mortos += WIFSIGNALED(fim) && WTERMSIG(fim) == SIGKILL ? 1 : 0;
-    EXPECT_EQ(mortos, 1);
+    const auto antes = std::chrono::steady_clock::now();
+    while (waitpid(-1, nullptr, 0) > 0) {
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - antes, std::chrono::seconds{10}); // nenhum ficou a dormir
 }
 
 TEST_F(Impressora, SemNadaInstaladoFicaGuardado) {
