@@ -204,18 +204,6 @@ TEST_F(Horta, PrevisaoVaiEVoltaComCanteirosQueAcabamEQueSoExistiramNela) {
     EXPECT_EQ(horta(), de_hoje);
 }
 
-TEST_F(Horta, PasseioGiraAsFacesEAcaba) {
-    musica_ligada = true;
-    trilha_horta = "\\htfimc.wav";
-    auto& h = abre();
-    EXPECT_EQ(roteiro.tocados, std::vector<std::string>{trilha_horta});
-    roteiro.espera_ms(350).confere([&] { EXPECT_EQ(nome(h.Command2(9).figura_apagada), "cof02.bmp"); });
-    roteiro.espera_ms(12'000);
-    laco();
-    EXPECT_EQ(nome(h.Command2(9).figura_apagada), "cof05bw.bmp");
-    EXPECT_EQ(h.timer_.intervalo, 0);
-}
-
 TEST_F(Horta, BotaoDaSementeiraAcendeComMudaPorTratar) {
     const auto botao = [this] {
         return std::pair(abre().Command2(2).ativo, abre().Command2(2).cor_fundo != cor_cinza);

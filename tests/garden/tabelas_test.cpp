@@ -2,7 +2,6 @@
 #include "roteiro.h"
 
 #include <map>
-#include <set>
 
 namespace verdalia {
 namespace {
@@ -175,17 +174,25 @@ TEST_F(TabelasDaHorta, CadaCaminhoMostraOsSeusQuadrosEFala) {
     EXPECT_EQ(falas("\\previsao.wav") * 10 + falas("\\tempo.wav"), 11);
 }
 
-// A apresentação gira as seis faces juntas, cada uma desde a primeira.
-TEST_F(TabelasDaHorta, ApresentacaoGiraAsSeisFaces) {
+// A apresentação gira as seis faces juntas, cada uma desde a primeira, e acaba com elas em repouso.
+TEST_F(TabelasDaHorta, ApresentacaoGiraAsSeisFacesEAcaba) {
     musica_ligada = true;
+    trilha_horta = "\\htfimc.wav";
     auto& h = abre();
-    std::set<std::string> faces;
-    roteiro.espera_ms(101).confere([&] {
-        for (const int k : {2, 5, 6, 7, 8, 9}) faces.insert(nome(h.Command2(k).figura_apagada));
+    const auto faces = [&h] {
+        std::string s;
+        for (const int k : {2, 5, 6, 7, 8, 9}) s += nome(h.Command2(k).figura_apagada) + " ";
+        return s;
+    };
+    const std::string repouso = faces();
+    roteiro.espera_ms(101).confere(
+        [&] { EXPECT_EQ(faces(), "ssem00.bmp li00.bmp des00.bmp amo00.bmp cop00.bmp cof00.bmp "); });
+    roteiro.espera_ms(12'000).confere([&] {
+        EXPECT_EQ(faces(), repouso);
+        EXPECT_EQ(h.timer_.intervalo, 0);
     });
     laco();
-    EXPECT_EQ(faces,
-              (std::set<std::string>{"ssem00.bmp", "li00.bmp", "des00.bmp", "amo00.bmp", "cop00.bmp", "cof00.bmp"}));
+    EXPECT_EQ(roteiro.tocados, std::vector<std::string>{trilha_horta});
 }
 
 } // namespace

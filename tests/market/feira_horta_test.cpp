@@ -51,29 +51,6 @@ struct Feira : PartidaNaTela {
     }
 };
 
-TEST_F(Feira, CadaCaixoteVendeUmaVerduraENaSuaEtiqueta) {
-    std::set<int> vendidas, contas;
-    for (int i = 0; i < 21; ++i)
-        roteiro.clica("plc", i).confere([&, i] {
-            const Controle& caixote = na_tela("plc", i);
-            ASSERT_TRUE(caixote.figura);
-            EXPECT_FALSE(caixote.figura->falta) << caixote.figura->caminho;
-            for (int c = 1; c <= n_culturas; ++c)
-                if (seq_pedido[c] == 1 && vendidas.insert(c).second) {
-                    EXPECT_TRUE(caixote.dica.starts_with(nome_cult[c] + "\n")) << caixote.dica;
-                }
-            EXPECT_EQ(vendidas.size(), i + 1U);
-            for (int q = 0; q < 21; ++q) {
-                if (conta(q) != "1 x" || !contas.insert(q).second) continue;
-                const Retangulo r = na_tela("qt", q).lugar();
-                EXPECT_TRUE(caixote.lugar().contem(r.x + r.largura / 2, r.y + r.altura / 2)) << q;
-            }
-            EXPECT_EQ(contas.size(), i + 1U);
-        });
-    mostra_contas("67", {});
-    abre();
-}
-
 // Os caixotes e os pregões são da mesma tabela: a verdura, a sua conta e o clipe.
 TEST_F(Feira, CaixoteContaEPregaoSaoDaMesmaVerdura) {
     const struct {
@@ -90,6 +67,8 @@ TEST_F(Feira, CaixoteContaEPregaoSaoDaMesmaVerdura) {
         roteiro.clica("plc", i).confere([&, i] {
             EXPECT_EQ(seq_pedido[verduras[i].cultura], 1) << i;
             EXPECT_EQ(conta(verduras[i].qt), "1 x") << i;
+            EXPECT_FALSE(na_tela("plc", i).figura->falta) << i;
+            EXPECT_TRUE(na_tela("plc", i).dica.starts_with(nome_cult[verduras[i].cultura] + "\n")) << i;
         });
     // O "−" do caixote tira a que se pôs, e então some.
     for (int i = 0; i < 21; ++i)
