@@ -19,7 +19,6 @@
 #include "arquivo.h"
 #include "figura.h"
 #include "quadros.h"
-#include "som.h"
 
 namespace fs = std::filesystem;
 
@@ -28,7 +27,7 @@ namespace {
 
 enum Coluna { raiz, arquivo, tamanho, fonte, quadro, estilo, colunas = 7 };
 
-constexpr const char* pasta_do_tipo[] = {"arte", "audio", "textos"};
+constexpr const char* pasta_do_tipo[] = {"arte", "textos"};
 constexpr int trabalhadores = 2, maior_lado = 2000;
 
 using Registro = std::map<std::string, std::string>; // arquivo -> marca com que foi feito
@@ -49,25 +48,14 @@ Tipo tipo_de(const std::string& nome) {
     std::string extensao = fs::path(nome).extension().string();
     std::transform(extensao.begin(), extensao.end(), extensao.begin(), [](unsigned char c) { return std::tolower(c); });
     if (extensao == ".bmp" || extensao == ".jpg") return Tipo::figura;
-    if (extensao == ".wav") return Tipo::som;
     if (extensao == ".txt") return Tipo::texto;
     throw std::runtime_error("extensão desconhecida: " + nome);
 }
 
-// As pastas que a raiz nomeia, a partir da do programa; "a/{b,c}" são duas.
-std::vector<std::string> pastas_da_raiz(const std::string& nome) {
-    if (nome == "programa" || nome == "media") return {""};
-    const std::size_t abre = nome.find('{'), fecha = nome.find('}');
-    if (nome.rfind("audio/", 0) != 0 || abre == std::string::npos || fecha != nome.size() - 1)
-        throw std::runtime_error("raiz desconhecida: " + nome);
-    std::vector<std::string> pastas;
-    std::istringstream nomes(nome.substr(abre + 1, fecha - abre - 1));
-    for (std::string uma; std::getline(nomes, uma, ',');) pastas.push_back(nome.substr(0, abre) + uma + "/");
-    return pastas;
-}
-
 Midia le_linha(const std::string& linha, const std::vector<std::string>& campo) {
     if (campo.size() != colunas) throw std::runtime_error("tem " + std::to_string(campo.size()) + " colunas, não 7");
+    if (campo[raiz] != "programa" && campo[raiz] != "media")
+        throw std::runtime_error("raiz desconhecida: " + campo[raiz]);
     Midia m;
     m.linha = linha;
     m.arquivo = campo[arquivo];
@@ -147,15 +135,6 @@ void faz_figura(const Tarefa& t, const fs::path& destino) {
     grava_bmp(figura, destino);
 }
 
-void faz_som(const Tarefa& t, const fs::path& destino) {
-    const std::string nome = destino.filename().string();
-    // A trilha, que fica na pasta do programa, soa um pouco mais que uma fala.
-    if (t.falta)
-        grava_wav(tom_de_espera(nome, t.midia.arquivo == nome ? 2 : 0.35), destino);
-    else
-        grava_wav(efeito(le_arquivo(t.fonte), nome), destino);
-}
-
 // Os documentos são escritos em UTF-8 e lidos pelo programa em Windows-1252, com fim de linha de duas letras.
 void faz_texto(const Tarefa& t, const fs::path& destino) {
     const std::string texto = t.falta ? "###Em preparo\nEste texto ainda está sendo escrito. \n" : le_arquivo(t.fonte);
@@ -191,7 +170,7 @@ void grava_registro(const fs::path& nome, const Registro& registro) {
 
 // Faz as tarefas em duas linhas de trabalho; tira do registro o que falhou e põe nele o que saiu.
 void trabalha(const std::vector<Tarefa>& tarefas, const fs::path& programa, Registro& registro, Balanco& balanco) {
-    static constexpr std::array faz = {faz_figura, faz_som, faz_texto};
+    static constexpr std::array faz = {faz_figura, faz_texto};
     std::atomic<std::size_t> proxima = 0;
     std::mutex trava;
     const auto trabalho = [&] {
@@ -230,12 +209,8 @@ std::vector<Midia> le_manifesto(std::string_view texto) {
             for (std::string campo; std::getline(resto, campo, '\t');) campos.push_back(campo);
             Midia m = le_linha(linha, campos);
             m.numero = numero;
-            const std::string nome = m.arquivo;
-            for (const std::string& pasta : pastas_da_raiz(campos[raiz])) {
-                m.arquivo = pasta + nome;
-                if (!nomes.insert(m.arquivo).second) throw std::runtime_error("arquivo repetido: " + m.arquivo);
-                midias.push_back(m);
-            }
+            if (!nomes.insert(m.arquivo).second) throw std::runtime_error("arquivo repetido: " + m.arquivo);
+            midias.push_back(std::move(m));
         } catch (const std::runtime_error& erro) {
             throw std::runtime_error("midias.tsv, linha " + std::to_string(numero) + ": " + erro.what());
         }

@@ -1,4 +1,4 @@
-// A oficina das mídias: lê a lista, vê o que está velho e faz de novo só isso.
+// A oficina das figuras e dos textos: lê a lista, vê o que está velho e faz de novo só isso.
 #pragma once
 
 #include <filesystem>
@@ -8,15 +8,15 @@
 
 namespace verdalia {
 
-enum class Tipo { figura, som, texto };
+enum class Tipo { figura, texto };
 
-// Um arquivo a fazer: uma linha da lista (três, quando a raiz é a das vozes).
+// Um arquivo a fazer: uma linha da lista.
 struct Midia {
     int numero = 0;              // linha da lista
     std::string linha;           // a linha como está escrita
-    Tipo tipo = Tipo::figura;    // pela extensão: bmp e jpg, wav, txt
+    Tipo tipo = Tipo::figura;    // pela extensão: bmp e jpg, txt
     std::string arquivo;         // caminho a partir da pasta do programa
-    std::string fonte;           // arquivo em arte/, audio/ ou textos/ conforme o tipo; "" = ainda não há
+    std::string fonte;           // arquivo em arte/ ou textos/ conforme o tipo; "" = ainda não há
     std::string estilo;          // folha arte/<estilo>.css posta por cima; "" = nenhuma
     int quadro = 0;              // de 1 em diante, na tabela ao lado da fonte; 0 = figura parada
     int largura = 0, altura = 0; // tamanho lógico; a figura é feita com o dobro
@@ -27,7 +27,7 @@ struct Midia {
 std::vector<Midia> le_manifesto(std::string_view texto);
 
 struct Pedido {
-    std::filesystem::path projeto; // onde estão arte/, audio/, textos/ e ferramentas/midias.tsv
+    std::filesystem::path projeto; // onde estão arte/, textos/ e ferramentas/midias.tsv
     std::filesystem::path
         construcao;         // as mídias vão para construcao/programa, o registro para construcao/midias.registro
     std::string ferramenta; // marca de quem faz: quando muda, tudo é feito de novo
@@ -35,7 +35,7 @@ struct Pedido {
 
 struct Balanco {
     int feitas = 0, removidas = 0;
-    int faltam[3] = {};             // arquivos que são só guarda-lugar, por Tipo
+    int faltam[2] = {};             // arquivos que são só guarda-lugar, por Tipo
     std::vector<std::string> erros; // um por defeito, com o nome da fonte
 };
 

@@ -75,6 +75,7 @@ struct Roteiro : Hospedeiro {
     }
     Roteiro& fecha_janela() { return so_um(Evento::fecha); }
     Roteiro& encerra() { return so_um(Evento::encerra); }
+    Roteiro& descobre_janela() { return so_um(Evento::janela); }
     Roteiro& espera_ms(std::int64_t ms) {
         return passo([=, this] { acorda_em = tempo.ms + ms; });
     }
@@ -137,11 +138,12 @@ struct Roteiro : Hospedeiro {
     void troca_tela_cheia() override {}
     int toca(const std::string& caminho) override {
         tocados.push_back(caminho);
-        return duracao_dos_sons;
+        return aparelho ? aparelho(caminho) : duracao_dos_sons;
     }
 
     std::vector<std::string> tocados;
     int duracao_dos_sons = 0;
+    std::function<int(const std::string&)> aparelho{}; // quando há, é ele que toca e diz a duração
     int pinturas = 0;
     int esperas = 0;
     bool dorme = false; // o tempo passa de verdade: espera-se por outro programa

@@ -8,7 +8,6 @@
 #include "ferramentas/figura.h"
 #include "ferramentas/oficina.h"
 #include "ferramentas/quadros.h"
-#include "ferramentas/som.h"
 
 namespace fs = std::filesystem;
 
@@ -83,28 +82,16 @@ TEST(Figura, CorDaBordaSeEspalhaSemMudarOAlfa) {
     EXPECT_EQ(f.pontos, (std::vector<std::uint32_t>{0xff204060, 0x204060, 0x204060, 0, 0}));
 }
 
-TEST(Som, EfeitoSomaAsNotasDoSeuArquivo) {
-    const std::string tabela = "# a\na.wav seno 0 100 440 440 .5 5\nb.wav seno 0 900 440 440 .5 5\n"
-                               "a.wav sopro 100 100 900 300 .5 5\n";
-    const Amostras som = efeito(tabela, "a.wav");
-    EXPECT_EQ(som.size(), 4410u);
-    EXPECT_EQ(som, efeito(tabela, "a.wav")); // o chiado é sempre o mesmo
-    EXPECT_THROW(efeito(tabela, "c.wav"), std::runtime_error);
-    for (const char* errada : {"a.wav seno 0 100 440", "a.wav seno 0 100 0 440 1 1", "a.wav apito 0 100 440 440 1 1",
-                               "a.wav seno 0 1e9 440 440 1 1"})
-        EXPECT_NE(mensagem_de([&] { efeito(errada, "a.wav"); }).find("linha 1"), std::string::npos) << errada;
-}
-
 TEST(Manifesto, LinhaErradaDizONumero) {
     const auto erro = [](const std::string& linha) {
-        return mensagem_de([&] { le_manifesto("raiz\tarquivo\nprograma\ta.wav\t-\t-\t-\t-\tx\n" + linha + "\n"); });
+        return mensagem_de([&] { le_manifesto("raiz\tarquivo\nprograma\ta.txt\t-\t-\t-\t-\tx\n" + linha + "\n"); });
     };
-    EXPECT_EQ(erro("programa\tb.wav\t-\t-\t-\t-\tx"), "");
+    EXPECT_EQ(erro("programa\tb.txt\t-\t-\t-\t-\tx"), "");
     for (const char* errada :
          {"programa\tb.bmp\t10x10", "programa\tb.bmp\t10\t-\t-\t-\tx", "programa\tb.bmp\t0x5\t-\t-\t-\tx",
           "programa\tb.bmp\t10x10\ta.svg\t0\t-\tx", "programa\tb.bmp\t10x10\ta.svg\t2x\t-\tx",
-          "programa\tb.tif\t10x10\t-\t-\t-\tx", "quintal\tb.wav\t-\t-\t-\t-\tx", "programa\t../b.wav\t-\t-\t-\t-\tx",
-          "programa\ta.wav\t-\t-\t-\t-\tx", ""})
+          "programa\tb.tif\t10x10\t-\t-\t-\tx", "quintal\tb.txt\t-\t-\t-\t-\tx", "programa\t../b.txt\t-\t-\t-\t-\tx",
+          "programa\ta.txt\t-\t-\t-\t-\tx", ""})
         EXPECT_NE(erro(errada).find("midias.tsv, linha 3: "), std::string::npos) << errada;
 }
 
@@ -122,7 +109,6 @@ struct Oficina : testing::Test {
         grava_arquivo(projeto / "arte/bola.svg", bola);
         grava_arquivo(projeto / "arte/bola.quadros", "total 2\nbola x 1:0 2:20\n");
         grava_arquivo(projeto / "arte/apaga.css", "svg { opacity: .5 }");
-        grava_arquivo(projeto / "audio/efeitos.tsv", "plim.wav seno 0 100 440 440 .5 5\n");
         grava_arquivo(projeto / "textos/guia.txt", "###Horta\nA couve é boa.\n");
         lista(linhas);
     }
@@ -144,8 +130,6 @@ struct Oficina : testing::Test {
                                "programa\tb0pb.bmp\t20x10\tbola.svg\t1\tapaga\tx\n"
                                "programa\tfundo.jpg\t20x10\tbola.svg\t-\t-\tx\n"
                                "programa\tnada.bmp\t30x30\tnada.svg\t3\t-\tx\n"
-                               "audio/{um,dois}\tfala.wav\t-\t-\t-\t-\tx\n"
-                               "programa\tplim.wav\t-\tefeitos.tsv\t-\t-\tx\n"
                                "programa\tguia.Txt\t-\tguia.txt\t-\t-\tx\n"
                                "programa\toutro.Txt\t-\toutro.txt\t-\t-\tx\n";
 };
@@ -153,9 +137,8 @@ struct Oficina : testing::Test {
 TEST_F(Oficina, FazCadaTipoComoOProgramaOLe) {
     const Balanco b = faz();
     EXPECT_EQ(b.erros, std::vector<std::string>{});
-    EXPECT_EQ(b.feitas, 10);
+    EXPECT_EQ(b.feitas, 7);
     EXPECT_EQ(b.faltam[int(Tipo::figura)], 1);
-    EXPECT_EQ(b.faltam[int(Tipo::som)], 2);
     EXPECT_EQ(b.faltam[int(Tipo::texto)], 1);
 
     const std::string parada = le_arquivo(programa / "anima/b0.bmp"), apagada = le_arquivo(programa / "b0pb.bmp");
@@ -177,11 +160,6 @@ TEST_F(Oficina, FazCadaTipoComoOProgramaOLe) {
     EXPECT_EQ(numero_em(cartao, 18), 60u);
     EXPECT_EQ(ponto_do_bmp(cartao, 0, 0) >> 24, 0u);
     EXPECT_EQ(ponto_do_bmp(cartao, 30, 6), 0xfffbedc4u); // papel, nunca cinza
-    const std::string plim = le_arquivo(programa / "plim.wav");
-    EXPECT_EQ(plim.substr(0, 4) + plim.substr(8, 8), "RIFFWAVEfmt ");
-    EXPECT_EQ(numero_em(plim, 24), 22050u);
-    EXPECT_EQ(plim.size(), 44u + 2 * 2205);
-    EXPECT_GT(fs::file_size(programa / "audio/dois/fala.wav"), 10000u);
     EXPECT_EQ(le_arquivo(programa / "guia.Txt"), "###Horta\r\nA couve \xe9 boa.\r\n");
 }
 
@@ -196,13 +174,13 @@ TEST_F(Oficina, SoFazDeNovoOQueMudou) {
     EXPECT_EQ(faz().feitas, 4); // uma fonte mais velha também é outra fonte
     grava_arquivo(projeto / "arte/pecas/outra.svg", "<svg xmlns='http://www.w3.org/2000/svg'/>");
     EXPECT_EQ(faz().feitas, 4);
-    fs::remove(programa / "audio/um/fala.wav");
+    fs::remove(programa / "guia.Txt");
     EXPECT_EQ(faz().feitas, 1);
     grava_arquivo(projeto / "textos/outro.txt", "###Fim\n");
     const Balanco chegou = faz();
     EXPECT_EQ(chegou.feitas, 1);
     EXPECT_EQ(chegou.faltam[int(Tipo::texto)], 0);
-    EXPECT_EQ(faz("outra").feitas, 10);
+    EXPECT_EQ(faz("outra").feitas, 7);
 }
 
 TEST_F(Oficina, LinhaQueMudaRefazELinhaQueSaiApaga) {
@@ -227,7 +205,7 @@ TEST_F(Oficina, FonteQuebradaEErroComONomeAteSerConsertada) {
         ASSERT_EQ(b.erros.size(), 2u);
         EXPECT_NE(b.erros[0].find("arte/bola.svg: "), std::string::npos) << b.erros[0];
         EXPECT_NE(b.erros[1].find("textos/guia.txt: "), std::string::npos) << b.erros[1];
-        EXPECT_EQ(b.feitas, vez == 0 ? 5 : 0); // o resto saiu
+        EXPECT_EQ(b.feitas, vez == 0 ? 2 : 0); // o resto saiu
     }
     grava_arquivo(projeto / "arte/bola.svg", bola);
     grava_arquivo(projeto / "arte/bola.quadros", "total 1\n"); // o quadro 2 não existe

@@ -1,0 +1,149 @@
+// O aparelho de som de verdade, com um arquivo no lugar do alto-falante: o que se gravou é comparado, amostra por
+// amostra, com os sons do programa.
+#include "flow/comum/falas.h"
+#include "platform/tela/aparelho_de_som.h"
+#include "roteiro.h"
+
+#include <SDL.h>
+
+namespace verdalia {
+namespace {
+
+constexpr const char* verduras[] = {"couv",  "nab",  "vag", "chic", "chei", "pep",   "broc",
+                                    "quiab", "rab",  "ruc", "beri", "esp",  "cflor", "rep",
+                                    "alh",   "agri", "bet", "alf",  "tom",  "pim",   "cen"};
+
+// As amostras do arquivo que o jogo acha sob esse nome.
+std::string amostras(const std::string& caminho) {
+    const auto arquivo = acha(caminho);
+    EXPECT_TRUE(arquivo) << caminho;
+    return arquivo ? conteudo(*arquivo).substr(44) : "";
+}
+
+// Sem as amostras nulas das pontas.
+std::string sem_silencio(std::string som) {
+    const auto ultima = som.find_last_not_of('\0');
+    if (ultima == std::string::npos) return "";
+    som.resize((ultima + 2) / 2 * 2);
+    return som.substr(som.find_first_not_of('\0') / 2 * 2);
+}
+
+struct ComAparelho : PartidaNaTela {
+    ComAparelho() {
+        SDL_setenv("SDL_AUDIODRIVER", "disk", 1);
+        SDL_setenv("SDL_DISKAUDIOFILE", (pasta.raiz / "fita").c_str(), 1);
+        SDL_setenv("SDL_DISKAUDIODELAY", "2", 1); // dez vezes mais depressa que o som
+        aparelho = std::make_unique<AparelhoDeSom>();
+        roteiro.aparelho = [this](const std::string& caminho) { return aparelho->toca(caminho); };
+    }
+    ~ComAparelho() override {
+        desliga();
+        for (const char* nome : {"SDL_AUDIODRIVER", "SDL_DISKAUDIOFILE", "SDL_DISKAUDIODELAY"}) unsetenv(nome);
+    }
+    void desliga() {
+        aparelho.reset();
+        if (SDL_WasInit(SDL_INIT_AUDIO) != 0) SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    }
+    static void deixa_acabar() {
+        const std::uint64_t limite = SDL_GetTicks64() + 20000;
+        while (Mix_Playing(-1) != 0 && SDL_GetTicks64() < limite) SDL_Delay(1);
+        EXPECT_EQ(Mix_Playing(-1), 0);
+    }
+    // Tudo o que soou desde que o aparelho foi ligado; desliga-o, e o próximo som recomeça a fita.
+    std::string ouvido() {
+        desliga();
+        const std::string fita = conteudo(pasta.raiz / "fita");
+        std::filesystem::remove(pasta.raiz / "fita");
+        aparelho = std::make_unique<AparelhoDeSom>();
+        return sem_silencio(fita);
+    }
+    // O que se ouve de uma visita à barraca de `ms` milissegundos.
+    std::string ouvido_na_feira(std::int64_t ms) {
+        recomeca_laco();
+        roteiro.espera_ms(ms);
+        mostra(TelaId::feira_horta);
+        laco();
+        if (Mix_QuerySpec(nullptr, nullptr, nullptr) != 0) deixa_acabar();
+        return ouvido();
+    }
+
+    std::unique_ptr<AparelhoDeSom> aparelho;
+};
+
+TEST_F(ComAparelho, CadaSotaqueTocaOsSeusClipesESoComAVozLigada) {
+    for (const char* sotaque : {"correto", "caipira", "ingles"}) {
+        dir_audio = std::string("C:\\audio\\") + sotaque;
+        som_ligado = true;
+        const std::string clipe = amostras(dir_audio + "\\nabo.wav");
+        fala("\\nabo.wav", sem_esperar);
+        deixa_acabar();
+        EXPECT_TRUE(ouvido() == sem_silencio(clipe)) << sotaque;
+        EXPECT_EQ(aparelho->toca(dir_audio + "\\nabo.wav"), static_cast<int>(clipe.size() / 2 * 1000 / 22050));
+        ouvido();
+        som_ligado = false;
+        fala("\\nabo.wav", espera_o_fim);
+        EXPECT_EQ(ouvido(), "");
+    }
+}
+
+TEST_F(ComAparelho, GravacaoNaPastaDoJogadorTomaOLugarDoClipe) {
+    som_ligado = true;
+    const std::string instalado = amostras(dir_audio + "\\couve.wav"), outro = amostras("\\oia.wav");
+    escreve(jogador / "audio" / "correto" / "Couve.WAV", conteudo(*acha("\\oia.wav")));
+    fala("\\couve.wav", sem_esperar);
+    deixa_acabar();
+    EXPECT_TRUE(ouvido() == sem_silencio(outro));
+    EXPECT_FALSE(instalado == outro);
+}
+
+TEST_F(ComAparelho, SomNovoCortaOAnterior) {
+    efeito("\\hortafim.wav", sem_esperar);
+    const auto gravado = [this] {
+        std::error_code nada;
+        const auto bytes = std::filesystem::file_size(pasta.raiz / "fita", nada);
+        return nada ? 0 : bytes;
+    };
+    while (gravado() < 8192) SDL_Delay(1);
+    efeito("\\blip.wav", sem_esperar);
+    deixa_acabar();
+    const std::string fita = ouvido(), trilha = sem_silencio(amostras("\\hortafim.wav"));
+    const std::string blip = sem_silencio(amostras("\\blip.wav"));
+    ASSERT_GT(fita.size(), blip.size());
+    EXPECT_TRUE(fita.substr(fita.size() - blip.size()) == blip); // nada depois dele
+    const std::string antes = sem_silencio(fita.substr(0, fita.size() - blip.size()));
+    EXPECT_GT(antes.size(), 2000U);
+    EXPECT_LT(antes.size(), trilha.size());
+    EXPECT_TRUE(antes == trilha.substr(0, antes.size()));
+}
+
+TEST_F(ComAparelho, NaFeiraATrilhaSoComAMusicaEOsPregoesSoComAVoz) {
+    trilha_feira = "\\fefimc.wav";
+    EXPECT_EQ(ouvido_na_feira(20000), "");
+    musica_ligada = true;
+    EXPECT_TRUE(ouvido_na_feira(20000) == sem_silencio(amostras(trilha_feira)));
+    musica_ligada = false;
+    som_ligado = true;
+    const std::string pregao = ouvido_na_feira(2520);
+    EXPECT_TRUE(std::any_of(std::begin(verduras), std::end(verduras), [&](const char* v) {
+        return pregao == sem_silencio(amostras(dir_audio + "\\" + v + "-vz.wav"));
+    }));
+}
+
+TEST_F(ComAparelho, SomEsperadoSeguraQuemOPediuEAJanelaContinuaViva) {
+    som_ligado = true;
+    int pinturas = 0;
+    std::int64_t comeco = 0;
+    const std::int64_t duracao = static_cast<std::int64_t>(amostras(dir_audio + "\\ar1.wav").size() / 2 * 1000 / 22050);
+    roteiro.clica("lbl_total").esta_em("ok").confere([&] { comeco = relogio_de_teste.ms; }).clica("opções");
+    roteiro.espera_ms(1000).confere([&] { pinturas = roteiro.pinturas; }).descobre_janela().espera_ms(10);
+    roteiro.confere([&] { EXPECT_GT(roteiro.pinturas, pinturas); }).fecha_janela();
+    roteiro.espera_ms(duracao - 1020).esta_em("feira_horta"); // ainda falando
+    roteiro.espera_ms(20).confere([&] { EXPECT_GE(relogio_de_teste.ms - comeco, duracao); });
+    roteiro.pergunta("Saindo ...|Deseja sair", false).esta_em("feira_horta"); // o pedido de fechar não se perdeu
+    recomeca_laco();
+    mostra(TelaId::feira_horta);
+    laco();
+}
+
+} // namespace
+} // namespace verdalia
