@@ -7,6 +7,7 @@
 #include "data/plano.h"
 #include "fabricas.h"
 #include "flow/comum/saida.h"
+#include "flow/regras/calendario.h"
 #include "platform/base/arquivo.h"
 #include "platform/base/caminhos.h"
 #include "platform/tela/desenho_rpt.h"
@@ -82,6 +83,24 @@ void visita(benchmark::State& estado, TelaId tela) {
 BENCHMARK_CAPTURE(visita, centro, TelaId::INTRONEW)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(visita, horta_com_100_canteiros, TelaId::trabalhando_na_horta)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(visita, feira, TelaId::feira_horta)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(visita, agenda, TelaId::age)->Unit(benchmark::kMillisecond);
+
+// Um clique no planeta da agenda, com a horta cheia: a semana, as listas, as tabelas gravadas e a pintura.
+void planeta_na_agenda(benchmark::State& estado) {
+    comeca();
+    SemJanela janela(largura_logica, altura_logica);
+    mostra(TelaId::age);
+    auto& agenda = carrega_como<age>(TelaId::age);
+    for (auto _ : estado) {
+        agenda.previsao_Click();
+        pinta_tudo();
+        estado.PauseTiming();
+        volta_ao_tempo_real();
+        estado.ResumeTiming();
+    }
+    descarrega_tudo();
+}
+BENCHMARK(planeta_na_agenda)->Unit(benchmark::kMillisecond);
 
 void monta_matriz_e_pinta(benchmark::State& estado) {
     comeca();
