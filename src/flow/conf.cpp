@@ -33,9 +33,9 @@ constexpr Sotaque sotaques[] = {
 constexpr int n_sotaques = std::size(sotaques);
 
 constexpr Lugar lugares[] = {
-    {"painel", 0, 48, 60, 430, 366},
-    {"painel", 1, 500, 60, 244, 150},
-    {"painel", 2, 500, 230, 244, 196},
+    {"painel_sons", -1, 48, 60, 430, 366},
+    {"painel_unidade", -1, 500, 60, 244, 150},
+    {"painel_jogo", -1, 500, 230, 244, 196},
     {"Label3", 0, 60, 70, 406, 40, "Configuração de Sons"},
     {"Check1", 1, 78, 126, 300, 36},
     {"Label4", -1, 116, 126, 262, 36, "Trilha de Fundo"},
@@ -79,7 +79,6 @@ conf::conf() : Tela("conf"), animacao{*this, timer_, series, [this](int) { fim_d
 }
 
 void conf::cria_controles() {
-    for (int i = 0; i < 3; ++i) painel.cria(i);
     for (int i = 0; i < static_cast<int>(std::size(enfeites)); ++i) {
         const std::string raiz = i == 0 ? "" : dir_media;
         enfeite.cria(i).figura = carrega_figura(raiz + enfeites[i]);

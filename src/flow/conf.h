@@ -13,7 +13,9 @@
 namespace verdalia {
 
 struct conf : Tela {
-    Matriz<Painel> painel{*this, "painel"};
+    Painel painel_sons{*this, "painel_sons"};
+    Painel painel_unidade{*this, "painel_unidade"};
+    Painel painel_jogo{*this, "painel_jogo"};
     Matriz<Figura> enfeite{*this, "enfeite"};
     Matriz<Rotulo> Label3{*this, "Label3"};
     Matriz<Marca> Check1{*this, "Check1"};

@@ -17,11 +17,11 @@ namespace {
 
 constexpr int por_fileira = 6;
 constexpr Retangulo primeira_carta{34, 44, 84, 84};
-constexpr double passo = 88;
+constexpr double passo = 87;
 
 // clang-format off
 constexpr Lugar lugares[] = {
-    {"mesa", -1, 26, 36, 540, 540},
+    {"mesa", -1, 30, 40, 527, 527},
     {"painel", -1, 580, 52, 176, 236},
     {"legenda", 0, 592, 66, 152, 26, "TEMPO"},
     {"Lbl_timer", -1, 592, 92, 152, 56},
@@ -30,7 +30,7 @@ constexpr Lugar lugares[] = {
     {"Label1", 2, 592, 310, 152, 48, "Reiniciar"},
     {"Label1", 1, 592, 370, 152, 48, "Ranking"},
     {"Label1", 0, 592, 430, 152, 48, "Retornar"},
-    {"enfeite", -1, 624, 484, 88, 84},
+    {"enfeite", -1, 626, 484, 84, 84},
 };
 // clang-format on
 

@@ -19,15 +19,15 @@ struct Coluna {
 // clang-format off
 constexpr Coluna colunas[] = {
     {&rank_form::posição, 76, 60, Alinha::centro, {"##", "##"}},
-    {&rank_form::nome, 152, 330, Alinha::esquerda, {"JOGADOR", "JOGADOR"}},
-    {&rank_form::valor, 492, 110, Alinha::direita, {"TEMPO", "CLIQUES"}},
+    {&rank_form::nome, 144, 386, Alinha::esquerda, {"JOGADOR", "JOGADOR"}},
+    {&rank_form::valor, 532, 72, Alinha::direita, {"TEMPO", "CLIQUES"}},
     {&rank_form::quando, 612, 110, Alinha::direita, {"DIA", "DIA"}},
 };
 constexpr Lugar lugares[] = {
     {"painel", 0, 52, 104, 688, 186},
     {"painel", 1, 52, 302, 688, 186},
     {"nome", 12, 120, 50, 552, 46, "Os melhores do ranking"},
-    {"enfeite", -1, 60, 496, 84, 72},
+    {"enfeite", -1, 66, 496, 72, 72},
     {"Label1", 0, 400, 504, 150, 48, "Zerar"},
     {"Label1", 1, 580, 504, 150, 48, "Retornar"},
 };
