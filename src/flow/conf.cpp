@@ -201,8 +201,8 @@ void conf::Label1_Click() {
 void conf::Labelgame_Click() {
     animacao.para();
     Labelgame.ponteiro = ponteiro_ampulheta;
-    tipo_tempo = "1";
-    tipo_cliques = "2";
+    tipo_tempo = '1';
+    tipo_cliques = '2';
     mostra(TelaId::gamedio);
 }
 

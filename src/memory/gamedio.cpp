@@ -110,7 +110,7 @@ void gamedio::Form_Load() {
 
 void gamedio::Form_Activate() {
     if (sem_jogo_novo) return;
-    tamanho_jogo = "F";
+    tamanho_jogo = 'F';
     iniciar();
     for (int i = 0; i < n_comandos; ++i) Label1(i).ponteiro = ponteiro_mao;
 }
@@ -124,8 +124,8 @@ void gamedio::pede_fechar() {
 
 void gamedio::iniciar() {
     Timer1.intervalo = Timer2.intervalo = Timer3.intervalo = 0;
-    lbl_contador.texto = "0";
-    Lbl_timer.texto = ":";
+    lbl_contador.texto = '0';
+    Lbl_timer.texto = ':';
     lbl_contador.visivel = Lbl_timer.visivel = true;
     pares = pares_restantes = n_pares;
     ponteiro = ponteiro_ampulheta;

@@ -82,10 +82,7 @@ TEST_F(Opcoes, CadaSotaqueMudaTodasAsFalasETrilhasDepois) {
         .confere([] { EXPECT_EQ(tela_ativa()->foco->nome, "Check1"); })
         .teclas({SDLK_DOWN, SDLK_SPACE});
     for (const auto& e : esperados) {
-        roteiro.confere([] { tela_ativa()->foco = tela_ativa()->controle("Option1", 0); })
-            .tecla(SDLK_UP)
-            .tecla(SDLK_DOWN);
-        for (int i = 0; i < e.indice; ++i) roteiro.tecla(SDLK_DOWN);
+        roteiro.confere([&e] { tela_ativa()->foco = tela_ativa()->controle("Option1", e.indice); });
         roteiro.tecla(SDLK_SPACE).confere([this, &e] {
             EXPECT_EQ(dir_audio, e.pasta);
             roteiro.tocados.clear();
