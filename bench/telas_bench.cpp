@@ -1,5 +1,5 @@
 // Medidas das telas, com o pintor de software e sem janela: abrir, pintar em dois tamanhos, acertar o tabuleiro cheio,
-// um tique da apresentação.
+// um tique da apresentação; o jogo da memória.
 #include "agenda/regras/plano.h"
 #include "agenda/regras/relatorio.h"
 #include "data/banco.h"
@@ -15,6 +15,7 @@
 
 #include <benchmark/benchmark.h>
 #include <cstdlib>
+#include <malloc.h>
 
 namespace {
 
@@ -101,6 +102,52 @@ void planeta_na_agenda(benchmark::State& estado) {
     descarrega_tudo();
 }
 BENCHMARK(planeta_na_agenda)->Unit(benchmark::kMillisecond);
+
+BENCHMARK_CAPTURE(visita, ranking, TelaId::rank_form)->Unit(benchmark::kMillisecond);
+
+// O jogo da memória, das 36 cartas lidas e distribuídas até o primeiro quadro. Limite: 40 ms.
+BENCHMARK_CAPTURE(visita, memoria, TelaId::gamedio)->Unit(benchmark::kMillisecond);
+
+// Do clique à carta pintada. Limite: um quadro, 16 ms.
+void vira_carta(benchmark::State& estado, int largura, int altura) {
+    comeca();
+    SemJanela janela(largura, altura);
+    mostra(TelaId::gamedio);
+    pinta_tudo();
+    auto& jogo = carrega_como<gamedio>(TelaId::gamedio);
+    int carta = 0;
+    for (auto _ : estado) {
+        jogo.Timer1.intervalo = 0;
+        jogo.figura(carta = (carta + 1) % n_cartas).clique();
+        pinta_tudo();
+    }
+    descarrega_tudo();
+}
+BENCHMARK_CAPTURE(vira_carta, 1x, 792, 592)->Unit(benchmark::kMillisecond)->Iterations(200);
+BENCHMARK_CAPTURE(vira_carta, 4k, 3840, 2160)->Unit(benchmark::kMillisecond)->Iterations(200);
+
+// Mil jogos seguidos, sem pedir nome; `bytes` é quanto a memória cresceu depois dos primeiros dez.
+void mil_jogos(benchmark::State& estado) {
+    comeca();
+    SemJanela janela(792, 592);
+    mostra(TelaId::gamedio);
+    auto& jogo = carrega_como<gamedio>(TelaId::gamedio);
+    std::size_t antes = 0;
+    int jogados = 0;
+    for (auto _ : estado) {
+        if (jogados++ == 10) antes = mallinfo2().uordblks;
+        jogo.iniciar();
+        for (int f = 1; f <= n_pares; ++f) {
+            for (int i = 0; i < n_cartas; ++i)
+                if (jogo.valor_carta[i] == f) jogo.figura(i).clique();
+            while (jogo.Timer1.intervalo != 0) jogo.Timer1_Timer();
+        }
+        jogo.Timer3.intervalo = 0;
+    }
+    estado.counters["bytes"] = static_cast<double>(mallinfo2().uordblks) - static_cast<double>(antes);
+    descarrega_tudo();
+}
+BENCHMARK(mil_jogos)->Unit(benchmark::kMillisecond)->Iterations(1000);
 
 void monta_matriz_e_pinta(benchmark::State& estado) {
     comeca();

@@ -7,8 +7,8 @@
 #include "flow/comum/falas.h"
 #include "flow/comum/saida.h"
 #include "flow/comum/series.h"
+#include "flow/comum/unidades.h"
 #include "flow/regras/calendario.h"
-#include "platform/base/caminhos.h"
 #include "platform/tela/laco.h"
 
 namespace verdalia {
@@ -134,8 +134,7 @@ void INTRONEW::Form_Load() {
     nhoca_esquerda = true;
     nome_banco = "\\hortas00.mdb";
     tenta_no_banco("Atenção ...", "As figuras continuam a vir da mesma unidade.", le_cd);
-    if (unidade_cd >= 0 && unidade_cd < static_cast<int>(letras_de_unidade.size()))
-        dir_media = letras_de_unidade[static_cast<std::size_t>(unidade_cd)];
+    usa_unidade(unidade_cd);
     saida.figura = carrega_figura(dir_media + "\\anima\\port00.bmp");
     pic_feira.figura = carrega_figura(dir_media + "\\anima\\cesta9.bmp");
     pic_agenda.figura = carrega_figura(dir_media + "\\anima\\age10.bmp");
