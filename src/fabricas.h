@@ -7,6 +7,7 @@
 #include "flow/fundo.h"
 #include "flow/intronew.h"
 #include "garden/trabalhando_na_horta.h"
+#include "hypertext/help.h"
 #include "market/feira_horta.h"
 #include "seedbed/controle_da_sementeira.h"
 
@@ -25,7 +26,7 @@ inline constexpr FabricaDeTela fabricas_do_jogo[] = {
     {TelaId::controle_da_sementeira, nova<controle_da_sementeira>},
     {TelaId::trabalhando_na_horta, nova<trabalhando_na_horta>},
     {TelaId::age, nova<age>},
-    {TelaId::help, nova<em_construcao>},
+    {TelaId::help, nova<help>},
     {TelaId::ok, nova<ok>},
     {TelaId::form_ok_nao, nova<form_ok_nao>},
     {TelaId::ok_help, nova<ok_help>},
