@@ -23,12 +23,15 @@ namespace {
 
 constexpr Cor cor_do_texto{0, 0, 255}, cor_da_ligacao{255, 0, 0};
 constexpr int linhas_por_roda = 3;
+constexpr double borda = 8;               // da folha, em pixels, onde não se imprime
+constexpr double pe = 16;                 // e a linha que começa no fim do quadro ainda cabe inteira
 constexpr std::size_t o_que_se_ve = 1000; // bytes de uma palavra; o que passa disto está fora da folha
 
 // O que se lê de um pedaço do documento: os códigos que não são letra viram brancos.
 std::string legivel(std::string_view bytes) {
     std::string texto(bytes.substr(0, o_que_se_ve));
-    std::replace_if(texto.begin(), texto.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+    std::replace_if(
+        texto.begin(), texto.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
     return utf8_de_1252(texto);
 }
 
@@ -40,12 +43,10 @@ struct QuadroDaFolha : Quadro {
     QuadroDaFolha& operator=(const QuadroDaFolha&) = delete;
     ~QuadroDaFolha() override { despeja(); }
 
-    double largura_do_texto(std::string_view texto) override {
-        return largura_texto(legivel(texto), letra()) / twip;
-    }
+    double largura_do_texto(std::string_view texto) override { return largura_texto(legivel(texto), letra()) / twip; }
     double altura_da_linha() override { return altura_linha(letra()) / twip; }
-    double largura_interna() override { return folha.largura / twip; }
-    double altura_interna() override { return folha.altura / twip; }
+    double largura_interna() override { return (folha.largura - 2 * borda) / twip; }
+    double altura_interna() override { return (folha.altura - 2 * borda - pe) / twip; }
     void limpa() override {
         junto.clear();
         folha.limpa();
@@ -58,8 +59,8 @@ struct QuadroDaFolha : Quadro {
         if (!continua) {
             despeja();
             folha.letra = agora;
-            folha.pos_x = x * twip;
-            folha.pos_y = y * twip;
+            folha.pos_x = borda + x * twip;
+            folha.pos_y = borda + y * twip;
         }
         junto += legivel(texto);
         x += largura_do_texto(texto);
@@ -90,12 +91,16 @@ void FolhaDaAjuda::roda(int passos) {
     barra->roda(linhas_por_roda * passos);
 }
 
+void FaixaDaAjuda::pinta(Pintor& p, const Retangulo& r) {
+    p.moldura(r, 8, 4, cor_madeira, cor_papel_claro);
+}
+
 help::help() : Tela("help"), animacao{*this, timer_, series} {}
 
 void help::Form_Load() {
     arruma(*this, lugares);
     ponteiro = ponteiro_seta;
-    margem.atravessa = true;
+    faixa.atravessa = true;
     theLabel1.quente = true;
     theLabel1.letra = {.familia = Familia::legenda, .corpo = 13, .negrito = true};
     theLabel1.ponteiro = pic_nhoca.ponteiro = ponteiro_mao;
@@ -106,10 +111,12 @@ void help::Form_Load() {
     imagespicturebox.visivel = false;
     TextPictureBox.barra = &TextVScroll;
     TextPictureBox.so_do_mouse = true;
-    TextPictureBox.botao = [this](const Mouse& m) { TextPictureBox_MouseDown(m.botao, 0, m.x / twip, m.y / twip); };
+    TextPictureBox.botao = [this](const Mouse& m) {
+        TextPictureBox_MouseDown(m.botao, 0, (m.x - borda) / twip, (m.y - borda) / twip);
+    };
     // A folha não tem dica: aproveita-se que ela é perguntada a cada movimento do mouse.
     TextPictureBox.dica_viva = [this](double x, double y) {
-        TextPictureBox_MouseMove(0, 0, x / twip, y / twip);
+        TextPictureBox_MouseMove(0, 0, (x - borda) / twip, (y - borda) / twip);
         return std::string();
     };
     TextVScroll.muda = [this] { TextVScroll_Change(); };
@@ -195,13 +202,12 @@ void help::refaz_ligacoes() {
         Figura& peca = ligacao.cria(i);
         peca.pai = &TextPictureBox;
         peca.atravessa = true;
-        peca.fica_em({z.esq * twip, z.topo * twip, std::min<double>(z.dir * twip, TextPictureBox.largura) - z.esq * twip,
-                      (z.base - z.topo) * twip});
+        const double x = borda + z.esq * twip, y = borda + z.topo * twip, alto = (z.base - z.topo) * twip;
+        peca.fica_em({x, y, std::min((z.dir - z.esq) * twip, TextPictureBox.largura - x), alto});
         peca.clique = [this, alvo = z.alvo] { segue_ligacao(alvo); };
         peca.tecla = [this](const Tecla& t) { return TextVScroll.interage() && TextVScroll.teclado(t); };
         if (z.topo != ultimo_topo)
-            paineis.push_back({TextPictureBox.esquerda, TextPictureBox.topo + z.topo * twip, TextPictureBox.largura,
-                               (z.base - z.topo) * twip});
+            paineis.push_back({TextPictureBox.esquerda, TextPictureBox.topo + y, TextPictureBox.largura, alto});
         ultimo_topo = z.topo;
     }
     paineis.push_back({0, 0, TextVScroll.esquerda, altura_logica});
@@ -268,7 +274,7 @@ void help::abre_figura(const std::string& caminho) {
 }
 
 void help::mostra_texto(bool mostra) {
-    TextPictureBox.visivel = TextVScroll.visivel = mostra;
+    faixa.visivel = TextPictureBox.visivel = TextVScroll.visivel = mostra;
 }
 
 void help::ilustra_topico(const std::string& topico) {
@@ -281,8 +287,10 @@ void help::ilustra_topico(const std::string& topico) {
     const std::string figura = linha->figura == nullptr ? fig_dia_semana() : linha->figura;
     const bool das_midias = figura.starts_with("\\anima\\");
     imagespicturebox.figura = carrega_figura(das_midias ? dir_media + figura : figura);
-    const double l = imagespicturebox.figura->largura / 2.0, a = imagespicturebox.figura->altura / 2.0;
-    imagespicturebox.fica_em({(largura_da_margem - l) / 2, topo_da_ilustracao, l, a});
+    // As verduras, desenhadas para a casa de um canteiro, mostram-se aqui no dobro do tamanho.
+    const double escala = imagespicturebox.figura->largura < largura_da_faixa ? 1 : 0.5;
+    const double l = imagespicturebox.figura->largura * escala, a = imagespicturebox.figura->altura * escala;
+    imagespicturebox.fica_em({(largura_da_faixa - l) / 2, topo_da_ilustracao, l, a});
 }
 
 void help::imagespicturebox_Click() {
@@ -303,8 +311,8 @@ void help::thelabel1_Click() {
     theLabel1.ponteiro = ponteiro_ampulheta;
     fecha_hipertexto();
     descarrega(*this);
-    const auto* volta = std::find_if(std::begin(voltas), std::end(voltas),
-                                     [](const Volta& v) { return tela_origem == v.tela_origem; });
+    const auto* volta =
+        std::find_if(std::begin(voltas), std::end(voltas), [](const Volta& v) { return tela_origem == v.tela_origem; });
     mostra(volta == std::end(voltas) ? volta_das_outras : volta->tela);
 }
 

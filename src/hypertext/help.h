@@ -17,8 +17,14 @@ struct FolhaDaAjuda : CaixaImpressao {
     void roda(int passos) override;
 };
 
+// A faixa à esquerda do texto, onde fica a ilustração.
+struct FaixaDaAjuda : Figura {
+    using Figura::Figura;
+    void pinta(Pintor& p, const Retangulo& r) override;
+};
+
 struct help : Tela {
-    Figura margem{*this, "margem"}; // a faixa à esquerda do texto, onde fica a ilustração
+    FaixaDaAjuda faixa{*this, "faixa"};
     FolhaDaAjuda TextPictureBox{*this, "TextPictureBox"};
     BarraRolagem TextVScroll{*this, "TextVScroll"};
     Matriz<Figura> ligacao{*this, "ligacao"}; // uma por zona, para o teclado; o mouse passa por elas

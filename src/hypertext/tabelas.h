@@ -108,7 +108,7 @@ inline constexpr Serie series[] = {
 };
 
 inline constexpr Lugar lugares[] = {
-    {"margem", -1, 0, 4, 108, 512},
+    {"faixa", -1, 0, 4, 106, 514},
     {"TextPictureBox", -1, 112, 4, 632, 514},
     {"TextVScroll", -1, 752, 0, 28, 592},
     {"theLabel1", -1, 16, 540, 138, 32, "Retornar", "Voltar para a tela de onde veio"},
@@ -116,6 +116,6 @@ inline constexpr Lugar lugares[] = {
 };
 // clang-format on
 
-inline constexpr double largura_da_margem = 1600 * twip, topo_da_ilustracao = 1200 * twip;
+inline constexpr double largura_da_faixa = 1600 * twip, topo_da_ilustracao = 1200 * twip;
 
 } // namespace verdalia::ajuda_tabelas

@@ -224,9 +224,8 @@ void desenha_linhas(Quadro& quadro, int primeira, int total) {
 
 std::string zona_em(double x, double y) {
     const auto fim = zonas.begin() + 1 + n_zonas_tela;
-    const auto zona = std::find_if(zonas.begin() + 1, fim, [x, y](const Zona& z) {
-        return z.esq < x && x < z.dir && z.topo < y && y < z.base;
-    });
+    const auto zona = std::find_if(
+        zonas.begin() + 1, fim, [x, y](const Zona& z) { return z.esq < x && x < z.dir && z.topo < y && y < z.base; });
     return zona == fim ? "" : zona->alvo;
 }
 

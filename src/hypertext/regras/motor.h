@@ -1,6 +1,6 @@
 // O motor do hipertexto: faz de um documento de texto dois arquivos de registros, acha um tópico, quebra o seu texto em
-// linhas para a largura de um quadro, imprime-as e lembra onde ficou cada ligação. Não conhece tela: quem mede e imprime
-// é o quadro que lhe dão. Os textos daqui são os bytes do documento, em Windows-1252.
+// linhas para a largura de um quadro, imprime-as e lembra onde ficou cada ligação. Não conhece tela: quem mede e
+// imprime é o quadro que lhe dão. Os textos daqui são os bytes do documento, em Windows-1252.
 #pragma once
 
 #include <array>
@@ -12,8 +12,8 @@
 namespace verdalia {
 
 inline constexpr int max_topicos = 99, max_linhas = 500, max_ligacoes = 100;
-inline constexpr std::size_t tamanho_texto = 128;                   // de um pedaço de texto, ou do nome de um tópico
-inline constexpr std::size_t tamanho_registro = tamanho_texto + 4;  // e um inteiro de 32 bits, do byte menor ao maior
+inline constexpr std::size_t tamanho_texto = 128;                    // de um pedaço de texto, ou do nome de um tópico
+inline constexpr std::size_t tamanho_registro = tamanho_texto + 4;   // e um inteiro de 32 bits, do byte menor ao maior
 inline constexpr std::size_t maior_documento = std::size_t{4} << 20; // bytes
 
 struct Indice {
@@ -59,8 +59,9 @@ inline int n_zonas = 0, zona_aberta = 1, n_zonas_tela = 0;
 inline float y_atual = 0;
 inline std::string topico_atual;
 
-// Faz de `fonte`, um caminho do jogo, os arquivos .HTF e .IDX da pasta do jogador; o nome deles é `fonte` até o primeiro
-// ponto. Lança std::runtime_error, com a explicação, quando não se pode ler ou gravar. Do tópico 100 em diante nada entra.
+// Faz de `fonte`, um caminho do jogo, os arquivos .HTF e .IDX da pasta do jogador; o nome deles é `fonte` até o
+// primeiro ponto. Lança std::runtime_error, com a explicação, quando não se pode ler ou gravar. Do tópico 100 em diante
+// nada entra.
 void compila_texto(std::string_view fonte);
 // Abre os dois arquivos, com o nome cortado como acima, e lê o índice. Lança std::runtime_error quando faltam.
 void abre_hipertexto(std::string_view nome);
