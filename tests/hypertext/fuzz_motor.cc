@@ -43,7 +43,8 @@ void le_tudo() {
             desenha_linhas(quadro, primeira, n_linhas);
             confere(n_zonas_tela <= max_ligacoes);
             for (int z = 1; z <= n_zonas_tela; ++z)
-                confere(!zonas[z].alvo.empty() && zonas[z].alvo.size() <= tamanho_texto && zonas[z].base > zonas[z].topo);
+                confere(!zonas[z].alvo.empty() && zonas[z].alvo.size() <= tamanho_texto &&
+                        zonas[z].base > zonas[z].topo);
             sobre_zona(quadro.x, quadro.y);
         }
     }

@@ -124,7 +124,8 @@ void abre(std::ifstream& arquivo, const std::string& nome) {
 } // namespace
 
 void compila_texto(std::string_view fonte) {
-    const Compilacao c = compila(le_arquivo(acha_comum(std::string(fonte)), maior_documento));
+    const fs::path arquivo = acha_comum(std::string(fonte));
+    const Compilacao c = compila(le_arquivo(arquivo, std::min<std::size_t>(fs::file_size(arquivo), maior_documento)));
     fecha_hipertexto();
     grava(base(fonte) + ".HTF", c.htf);
     grava(base(fonte) + ".IDX", c.idx);

@@ -75,9 +75,9 @@ TEST_F(Motor, ALigacaoMalfeitaMostraSeComoTexto) {
     EXPECT_EQ(quebra("a ##b c~ ##d|e ##f|G~ h #1 ##i|~ j ##k resto perdido"), 3);
     EXPECT_EQ(linhas[2], "a ##b c~ ##d|e ##f|G~ h #1 ##i|~ j ");
     desenha_linhas(quadro, 2, n_linhas);
-    EXPECT_EQ(quadro.impressos, (std::vector<std::string>{"200,0:a ", "400,0:##b ", "800,0:c~ ", "1100,0:##d|e ",
-                                                          "1700,0:f *", "1900,0:h ", "2100,0:#1 ", "2400,0:##i|~ ",
-                                                          "3000,0:j "}));
+    EXPECT_EQ(quadro.impressos,
+              (std::vector<std::string>{"200,0:a ", "400,0:##b ", "800,0:c~ ", "1100,0:##d|e ", "1700,0:f *",
+                                        "1900,0:h ", "2100,0:#1 ", "2400,0:##i|~ ", "3000,0:j "}));
     EXPECT_EQ(n_zonas_tela, 1);
     // O que ficou partido entre duas linhas ainda se lê.
     quebra("##" + std::string(46, 'b') + " c~ d");
@@ -89,8 +89,8 @@ TEST_F(Motor, OTituloSoSeImprimeNoComeco) {
     quebra("abc ##de|Alvo~, fg\n\nh");
     desenha_linhas(quadro, 0, n_linhas);
     // O título tem 14 pontos e uma linha em branco embaixo; a linha vazia, 2.
-    EXPECT_EQ(quadro.impressos, (std::vector<std::string>{"700,0:Um", "200,560:abc ", "600,560:de,*", "900,560: ",
-                                                          "1000,560:fg ", "200,780:h"}));
+    EXPECT_EQ(quadro.impressos, (std::vector<std::string>{"700,0:Um", "200,560:abc ", "600,560:de,*",
+                                                          "900,560: ", "1000,560:fg ", "200,780:h"}));
     EXPECT_TRUE(quadro.negrito);
     desenha_linhas(quadro, 1, n_linhas);
     EXPECT_EQ(quadro.impressos.front(), "200,40:abc ");
