@@ -25,6 +25,7 @@ constexpr Cor cor_do_texto{0, 0, 255}, cor_da_ligacao{255, 0, 0};
 constexpr int linhas_por_roda = 3;
 constexpr double borda = 8;               // da folha, em pixels, onde não se imprime
 constexpr double pe = 16;                 // e a linha que começa no fim do quadro ainda cabe inteira
+constexpr std::size_t maior_pedaco = 32;  // bytes que se imprimem de uma vez, mais uma palavra
 constexpr std::size_t o_que_se_ve = 1000; // bytes de uma palavra; o que passa disto está fora da folha
 
 // O que se lê de um pedaço do documento: os códigos que não são letra viram brancos.
@@ -35,8 +36,8 @@ std::string legivel(std::string_view bytes) {
     return utf8_de_1252(texto);
 }
 
-// A folha como o motor a quer. O que se imprime em seguida e do mesmo jeito vai junto: uma linha inteira se pinta mais
-// depressa do que as suas palavras.
+// A folha como o motor a quer. O que se imprime em seguida e do mesmo jeito vai junto, que se pinta mais depressa do
+// que palavra por palavra; mas não a linha inteira, que no tamanho da janela não mede exatamente o mesmo.
 struct QuadroDaFolha : Quadro {
     explicit QuadroDaFolha(CaixaImpressao& caixa) : folha(caixa) { negrito = true; }
     QuadroDaFolha(const QuadroDaFolha&) = delete;
@@ -55,7 +56,7 @@ struct QuadroDaFolha : Quadro {
     void imprime(std::string_view texto) override {
         const Letra agora = letra();
         const bool continua = x == fim_x && y == fim_y && agora.cor == folha.letra.cor &&
-                              agora.corpo == folha.letra.corpo && junto.size() < o_que_se_ve;
+                              agora.corpo == folha.letra.corpo && junto.size() < maior_pedaco;
         if (!continua) {
             despeja();
             folha.letra = agora;

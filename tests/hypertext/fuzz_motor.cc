@@ -38,7 +38,7 @@ void le_tudo() {
     confere(n_topicos <= max_topicos);
     for (int i = 1; i <= n_topicos; ++i) {
         n_linhas = static_cast<std::int16_t>(quebra_linhas(indice[i].topico, quadro));
-        confere(n_linhas >= 3 && n_linhas <= max_linhas);
+        confere(n_linhas >= 3 && n_linhas <= max_linhas + 1);
         for (const int primeira : {0, n_linhas / 2, n_linhas - 1}) {
             desenha_linhas(quadro, primeira, n_linhas);
             confere(n_zonas_tela <= max_ligacoes);

@@ -146,7 +146,7 @@ int quebra_linhas(std::string_view topico, Quadro& quadro) {
         if (n > max_linhas) {
             std::fprintf(stderr, "verdalia: ajuda: um tópico passa de %d linhas; o resto dele fica de fora\n",
                          max_linhas);
-            n = max_linhas - 1;
+            n = max_linhas;
             break;
         }
         linhas[n] += p.crua;
