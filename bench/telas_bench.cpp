@@ -1,5 +1,5 @@
 // Medidas das telas, com o pintor de software e sem janela: abrir, pintar em dois tamanhos, acertar o tabuleiro cheio,
-// um tique da apresentação; o jogo da memória.
+// um tique da apresentação; a ajuda de um documento grande; o jogo da memória.
 #include "agenda/regras/plano.h"
 #include "agenda/regras/relatorio.h"
 #include "data/banco.h"
@@ -193,5 +193,43 @@ void pdf_de_horta_cheia(benchmark::State& estado) {
     }
 }
 BENCHMARK(pdf_de_horta_cheia)->Unit(benchmark::kMillisecond);
+
+// A ajuda com um documento de 200 kB: cinco tópicos de 40 kB, cada um quase no limite das 500 linhas.
+void com_documento_grande() {
+    comeca();
+    std::string documento;
+    for (int topico = 0; topico < 5; ++topico) {
+        documento += "###T" + std::to_string(topico) + "\r\n";
+        for (const std::size_t fim = documento.size() + 40960; documento.size() < fim;)
+            documento +=
+                "A ##cenoura|T1~ e o ##rabanete|T2~ guardam comida na raiz. Raiz mexida muitas vezes cresce torta. A "
+                "vagem e o pepino têm semente grande, que nasce com força, e a muda nem faz falta.\r\n\r\n";
+    }
+    grava_arquivo(para_gravar("\\help.Txt"), documento);
+    topico_help = "Atividades";
+}
+
+// Compila, abre e pinta o primeiro tópico. Limite: 50 ms.
+void abre_ajuda_de_200_kB(benchmark::State& estado) {
+    com_documento_grande();
+    visita(estado, TelaId::help);
+}
+BENCHMARK(abre_ajuda_de_200_kB)->Unit(benchmark::kMillisecond);
+
+// Rola uma linha e pinta. Limite: 5 ms.
+void rola_uma_linha_da_ajuda(benchmark::State& estado) {
+    com_documento_grande();
+    SemJanela janela(792, 592);
+    mostra(TelaId::help);
+    pinta_tudo();
+    auto& h = carrega_como<help>(TelaId::help);
+    for (auto _ : estado) {
+        h.TextVScroll.valor = (h.TextVScroll.valor + 1) % h.TextVScroll.maximo;
+        h.TextVScroll_Change();
+        pinta_tudo();
+    }
+    descarrega_tudo();
+}
+BENCHMARK(rola_uma_linha_da_ajuda)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -4,10 +4,10 @@
 #include "agenda/age.h"
 #include "flow/conf.h"
 #include "flow/conf_cd.h"
-#include "flow/em_construcao.h"
 #include "flow/fundo.h"
 #include "flow/intronew.h"
 #include "garden/trabalhando_na_horta.h"
+#include "hypertext/help.h"
 #include "market/feira_horta.h"
 #include "memory/gamedio.h"
 #include "memory/mem_ok.h"
@@ -29,7 +29,7 @@ inline constexpr FabricaDeTela fabricas_do_jogo[] = {
     {TelaId::controle_da_sementeira, nova<controle_da_sementeira>},
     {TelaId::trabalhando_na_horta, nova<trabalhando_na_horta>},
     {TelaId::age, nova<age>},
-    {TelaId::help, nova<em_construcao>},
+    {TelaId::help, nova<help>},
     {TelaId::gamedio, nova<gamedio>},
     {TelaId::mem_ok, nova<mem_ok>},
     {TelaId::rank_form, nova<rank_form>},
