@@ -1,6 +1,5 @@
 // Quem está atrás de cada nome de tela: a navegação inteira do jogo. Só main e os testes a incluem.
 #pragma once
-#include "flow/comum/dialogos.h"
 #include "agenda/age.h"
 #include "flow/conf.h"
 #include "flow/conf_cd.h"

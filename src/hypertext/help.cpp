@@ -10,7 +10,6 @@
 #include "platform/tela/impressora.h"
 #include "platform/tela/som.h"
 
-#include <SDL.h>
 #include <algorithm>
 #include <stdexcept>
 #include <utility>
@@ -232,9 +231,8 @@ void help::segue_ligacao(const std::string& alvo) {
     animacao.em_curso = nullptr; // a ilustração fica no quadro em que está
     anim_topico = 0;
     if (alvo.size() >= 4 && alvo[alvo.size() - 4] == '.') return segue_arquivo(utf8_de_1252(alvo));
-    const std::string topico = alvo;
-    mostra_topico(topico);
-    ilustra_topico(topico);
+    mostra_topico(alvo);
+    ilustra_topico(alvo);
 }
 
 namespace {
@@ -317,7 +315,7 @@ void help::thelabel1_Click() {
     mostra(volta == std::end(voltas) ? volta_das_outras : volta->tela);
 }
 
-void help::Timer__Timer() {
+void help::passo_da_animacao() {
     if (timer_.intervalo == 0) return;
     if (anim_acao != acao_da_minhoca) return animacao.tique();
     passo_da_minhoca(pic_nhoca, nhoca_quadro, nhoca_esquerda);

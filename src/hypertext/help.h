@@ -58,10 +58,11 @@ struct help : Tela {
     void imagespicturebox_Click();
     void pic_nhoca_Click();
     void thelabel1_Click();
-    void Timer__Timer();
+    void Timer__Timer() { passo_da_animacao(); }
 
 private:
     void abre_documento();
+    void passo_da_animacao();
     void segue_arquivo(const std::string& alvo);
     void abre_figura(const std::string& caminho);
     void mostra_texto(bool mostra);
