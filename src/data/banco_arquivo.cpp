@@ -119,7 +119,7 @@ fs::path nome_de_lado(const fs::path& arquivo) {
     const std::string raiz = arquivo.stem().string() + " " + texto_iso(hoje());
     for (int vez = 1;; ++vez) {
         const std::string numero = vez == 1 ? "" : " (" + std::to_string(vez) + ")";
-        const fs::path destino = arquivo.parent_path() / (raiz + numero + arquivo.extension().string());
+        fs::path destino = arquivo.parent_path() / (raiz + numero + arquivo.extension().string());
         if (!existe_algum(destino)) return destino;
     }
 }

@@ -51,8 +51,9 @@ constexpr Cor cor_da_mesa{0xd9, 0xe8, 0xb4};
 constexpr Cor cor_do_lugar{0xcb, 0xdd, 0xa0};
 
 Retangulo lugar_da_carta(int Index) {
-    return {primeira_carta.x + passo * (Index % por_fileira), primeira_carta.y + passo * (Index / por_fileira),
-            primeira_carta.largura, primeira_carta.altura};
+    const int coluna = Index % por_fileira, fileira = Index / por_fileira;
+    return {primeira_carta.x + passo * coluna, primeira_carta.y + passo * fileira, primeira_carta.largura,
+            primeira_carta.altura};
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include "memory/regras/ranking.h"
 
-#include <SDL.h>
 #include <algorithm>
 
 namespace verdalia {
@@ -26,34 +25,6 @@ bool comeca_letra(char c) {
 
 } // namespace
 
-bool CaixaDoNome::teclado(const Tecla& t) {
-    // Tab e as setas que saem da caixa não são teclas dela, e a letra chega por `escreve`.
-    switch (t.codigo) {
-    case SDLK_BACKSPACE:
-    case SDLK_DELETE:
-    case SDLK_LEFT:
-    case SDLK_RIGHT:
-    case SDLK_HOME:
-    case SDLK_END:
-        return !ao_teclar() || CaixaTexto::teclado(t);
-    case SDLK_RETURN:
-    case SDLK_KP_ENTER:
-        if (ao_teclar()) enter();
-        return true;
-    default:
-        return CaixaTexto::teclado(t);
-    }
-}
-
-void CaixaDoNome::escreve(const std::string& letras) {
-    for (std::size_t i = 0; i < letras.size();) {
-        std::size_t fim = i + 1;
-        while (fim < letras.size() && !comeca_letra(letras[fim])) ++fim;
-        if (ao_teclar()) CaixaTexto::escreve(letras.substr(i, fim - i));
-        i = fim;
-    }
-}
-
 void mem_ok::Form_Load() {
     dialogo = true;
     titulo = "Ranking";
@@ -70,7 +41,7 @@ void mem_ok::Form_Load() {
     }
     Text1.letra = {.corpo = 13};
     Text1.cor_fundo = {0xff, 0xff, 0xff};
-    Text1.ao_teclar = [this] { return Text1_KeyPress(); };
+    Text1.filtro = [this] { return Text1_KeyPress(); };
     Text1.enter = [this] {
         if (opções.ativo) opções_Click();
     };

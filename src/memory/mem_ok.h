@@ -7,25 +7,12 @@
 #include "platform/tela/matriz.h"
 #include "platform/tela/rotulo.h"
 
-#include <functional>
-
 namespace verdalia {
-
-// Uma caixa em que cada tecla passa antes por `ao_teclar`, que diz se ela vale.
-struct CaixaDoNome : CaixaTexto {
-    using CaixaTexto::CaixaTexto;
-
-    std::function<bool()> ao_teclar;
-    std::function<void()> enter;
-
-    bool teclado(const Tecla& t) override;
-    void escreve(const std::string& letras) override;
-};
 
 struct mem_ok : Tela {
     Figura Image1{*this, "Image1"};
     Matriz<Rotulo> mensagem{*this, "mensagem"};
-    CaixaDoNome Text1{*this, "Text1"};
+    CaixaFiltrada Text1{*this, "Text1"};
     Rotulo apaga{*this, "apaga"}; // o "×" dentro da caixa
     Botao opções{*this, "opções"};
 

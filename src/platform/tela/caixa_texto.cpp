@@ -101,4 +101,31 @@ void CaixaTexto::pinta(Pintor& p, const Retangulo& r) {
     p.recorta();
 }
 
+bool CaixaFiltrada::teclado(const Tecla& t) {
+    switch (t.codigo) {
+    case SDLK_BACKSPACE:
+    case SDLK_DELETE:
+    case SDLK_LEFT:
+    case SDLK_RIGHT:
+    case SDLK_HOME:
+    case SDLK_END:
+        return !filtro() || CaixaTexto::teclado(t);
+    case SDLK_RETURN:
+    case SDLK_KP_ENTER:
+        if (filtro()) enter();
+        return true;
+    default:
+        return CaixaTexto::teclado(t);
+    }
+}
+
+void CaixaFiltrada::escreve(const std::string& letras) {
+    for (std::size_t i = 0; i < letras.size();) {
+        std::size_t fim = i + 1;
+        while (fim < letras.size() && continua_letra(letras[fim])) ++fim;
+        if (filtro()) CaixaTexto::escreve(letras.substr(i, fim - i));
+        i = fim;
+    }
+}
+
 } // namespace verdalia

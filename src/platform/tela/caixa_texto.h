@@ -22,4 +22,16 @@ private:
     std::size_t cursor_ = 0; // em bytes, sempre no começo de uma letra
 };
 
+// Uma caixa que pergunta antes de cada tecla sua se ela vale: `filtro` ainda vê o texto de antes. Enter, se vale, chama
+// `enter`. Um texto que chega de uma vez passa letra por letra; Tab e as setas para cima e para baixo não são da caixa.
+struct CaixaFiltrada : CaixaTexto {
+    using CaixaTexto::CaixaTexto;
+
+    std::function<bool()> filtro;
+    std::function<void()> enter;
+
+    bool teclado(const Tecla& t) override;
+    void escreve(const std::string& letras) override;
+};
+
 } // namespace verdalia
