@@ -1,6 +1,7 @@
 // Quem está atrás de cada nome de tela: a navegação inteira do jogo. Só main e os testes a incluem.
 #pragma once
 #include "agenda/age.h"
+#include "flow/comum/dialogos.h"
 #include "flow/conf.h"
 #include "flow/conf_cd.h"
 #include "flow/fundo.h"
