@@ -36,10 +36,6 @@ template <typename... A, int (*sqlite3_io_methods::*Metodo)(sqlite3_file*, A...)
     static int chama(sqlite3_file* f, A... a) { return (de_verdade(f)->pMethods->*Metodo)(de_verdade(f), a...); }
 };
 
-int fecha(sqlite3_file* f) {
-    return de_verdade(f)->pMethods->xClose(de_verdade(f));
-}
-
 int escreve(sqlite3_file* f, const void* dados, int quantos, sqlite3_int64 lugar) {
     const std::string bytes(static_cast<const char*>(dados), static_cast<std::size_t>(quantos));
     const int codigo = anota(f, Gravacao::Tipo::escreve, lugar, bytes);
@@ -60,7 +56,7 @@ using M = sqlite3_io_methods;
 const sqlite3_io_methods metodos = [] {
     M m{};
     m.iVersion = 1;
-    m.xClose = fecha;
+    m.xClose = Adiante<&M::xClose>::chama;
     m.xRead = Adiante<&M::xRead>::chama;
     m.xWrite = escreve;
     m.xTruncate = corta;

@@ -32,6 +32,21 @@ struct DiscoDeTeste {
     bool so_leitura = false; // os bancos abrem como se faltasse permissão para gravar
 };
 
+// Grava com o disco cheio desde a primeira escrita, desde a segunda... até que caiba; `confere` recebe se gravou.
+// Devolve quantas escritas couberam.
+template <class Grava, class Confere> int enche_o_disco(Grava grava, Confere confere) {
+    DiscoDeTeste disco;
+    disco.codigo_falha = 13; // SQLITE_FULL
+    for (int cabem = 0;; ++cabem) {
+        disco.escritas = 0;
+        disco.falha_em = cabem;
+        const bool gravou = grava();
+        disco.falha_em = -1;
+        confere(gravou);
+        if (gravou) return cabem;
+    }
+}
+
 using Arquivos = std::map<std::string, std::string>; // nome, bytes
 
 // O que do diário não tinha ido de vez para o disco quando a luz acabou.
