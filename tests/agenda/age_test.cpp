@@ -42,11 +42,10 @@ TEST_F(Agenda, MostraOTrabalhoDaSemanaComOSeuLugar) {
     planta(12, cult_alface, 7); // final
     planta(13, cult_alface, 4); // amontoa
     planta(14, cult_alface, 1); // reposição: não é da agenda
+    st_check[7] = -1;           // o que já foi feito continua na agenda da semana
     auto& a = abre();
     EXPECT_EQ(todas(a), "Cenoura| 2m|; Nabo|J 10|/Couve||1x; Chicória||B 2/Alface| 1m|A 1/"
                         "Alface||A 2; Alface|A 8|/Quiabo|B 1|/Alface|B 4|/Alface|B 2|/Alface|B 3|/");
-    EXPECT_EQ(no_banco("SELECT trato, aonde, cultura FROM relat WHERE hs = 0 AND ord < 2"),
-              "Plantio| 2m|Cenoura (30 / m2)\nPlantio|J 10|Nabo\nTransplante| 1m|Alface  ( 12 / m2 )\n");
 }
 
 TEST_F(Agenda, ListaCompridaRolaComARodaEComOTeclado) {
@@ -54,21 +53,18 @@ TEST_F(Agenda, ListaCompridaRolaComARodaEComOTeclado) {
     planta(50, cult_couve, 3);
     auto& a = abre();
     BarraRolagem& barra = a.na_tela[r_li]->barra;
-    EXPECT_TRUE(barra.visivel && barra.ativo);
+    EXPECT_TRUE(barra.visivel && barra.ativo && !a.na_tela[r_tr]->barra.visivel);
     EXPECT_EQ(barra.maximo, 13);
-    EXPECT_FALSE(a.na_tela[r_tr]->barra.visivel);
     EXPECT_TRUE(lista(a, r_li).starts_with("Alface|A 1|"));
     roteiro.confere([&] { a.foco = &barra; }).teclas({SDLK_TAB, SDLK_DOWN}).confere([&] {
-        EXPECT_TRUE(lista(a, r_li).starts_with("Alface|A 2|"));
-        EXPECT_TRUE(lista(a, r_li).ends_with("Alface|B 1|"));
+        EXPECT_TRUE(lista(a, r_li).starts_with("Alface|A 2|") && lista(a, r_li).ends_with("Alface|B 1|"));
     });
     roteiro.tecla(SDLK_END).confere([&] { EXPECT_TRUE(lista(a, r_li).ends_with("Couve|F 1|")); });
     roteiro.aponta(660, 200).roda(3).confere([&] { EXPECT_EQ(barra.valor, 10); });
     // Na semana seguinte a lista é outra, e recomeça do alto, sem barra.
     roteiro.clica("previsao").confere([&] {
-        EXPECT_EQ(barra.valor, 0);
+        EXPECT_EQ(std::to_string(barra.valor) + lista(a, r_li), "0");
         EXPECT_FALSE(barra.visivel);
-        EXPECT_EQ(lista(a, r_li), "");
     });
     laco();
 }

@@ -80,13 +80,4 @@ TEST_F(Plano, Pendencias) {
     EXPECT_EQ(pend_leira(), 2);
 }
 
-TEST_F(Plano, NomesEFiguras) {
-    EXPECT_EQ(nome_canteiro(9) + nome_canteiro(10) + nome_canteiro(99), "A 10B 1J 10");
-    EXPECT_EQ(nome_leira(10) + nome_leira(11) + nome_leira(21), "A 11B 1B 11");
-    dir_media = "D:";
-    EXPECT_EQ(fig_dia_semana(), "D:\\anima\\seman04.bmp"); // quarta-feira
-    EXPECT_EQ(fig_dia_passado(3), "D:\\anima\\seman01.bmp");
-    EXPECT_EQ(fig_dia_passado(4), "D:\\anima\\seman07.bmp");
-}
-
 } // namespace verdalia

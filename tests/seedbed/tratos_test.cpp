@@ -83,17 +83,5 @@ TEST_F(Sementeira, PrevisaoVaiEVoltaComLeirasQueSePerdemEQueSoExistiramNela) {
     EXPECT_EQ(horta(), de_hoje); // a semeada na previsão se foi
 }
 
-TEST_F(Sementeira, CliqueNumTratoCortaAApresentacao) {
-    musica_ligada = true;
-    semeia(0, cult_alface, 2);
-    auto& s = abre();
-    roteiro.espera_ms(320).confere([&] { EXPECT_EQ(nome(s.Command4(3).figura_apagada), "tra02.bmp"); });
-    roteiro.clica("Command4", 1).espera_ms(50).confere([&] {
-        EXPECT_EQ(nome(s.Command4(3).figura_apagada), "tra04bw.bmp");
-        EXPECT_TRUE(s.Label4(0).visivel);
-    });
-    laco();
-}
-
 } // namespace
 } // namespace verdalia

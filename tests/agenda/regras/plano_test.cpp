@@ -16,28 +16,12 @@ struct PlanoDaAgenda : Partida {
     }
 };
 
-TEST_F(PlanoDaAgenda, OQueSePlantaDiretoTemQuantidadeAteTerLugar) {
-    seq_pedido[cult_cenoura] = 2;
-    seq_pedido[cult_pepino] = 1;
-    EXPECT_EQ(lista(r_pld), "Cenoura| 2m||30 / m2; Pepino| 1m||8 / m2");
-    planta(7, cult_cenoura, 0);
-    EXPECT_EQ(lista(r_pld), "Cenoura| 1m||30 / m2; Pepino| 1m||8 / m2; Cenoura|A 8||");
-    EXPECT_EQ(lista(r_pls) + lista(r_tr), "");
-}
-
 TEST_F(PlanoDaAgenda, SemMudaProntaSeSemeiaUmaLeiraSo) {
     seq_pedido[cult_alface] = 5;
     EXPECT_EQ(lista(r_pls), "Alface|1x||");
     EXPECT_TRUE(lista_tr.empty());
     semeia(21, cult_alface, 0);
     EXPECT_EQ(lista(r_pls), "Alface|B 11||");
-    // A couve plantada há 6 semanas foi semeada há 11: a leira dela ainda conta. Há 7, já não.
-    esvazia();
-    seq_pedido[cult_couve] = 1;
-    planta(50, cult_couve, 6);
-    EXPECT_EQ(lista(r_pls), "");
-    st_idade[50] = 7;
-    EXPECT_EQ(lista(r_pls), "Couve|1x||");
 }
 
 TEST_F(PlanoDaAgenda, AMudaProntaLevaAQuantidadeQueOPedidoQuer) {
@@ -51,37 +35,6 @@ TEST_F(PlanoDaAgenda, AMudaProntaLevaAQuantidadeQueOPedidoQuer) {
     planta(99, cult_alface, 0);
     EXPECT_EQ(lista(r_tr), "Alface||A 4|; Alface|J 10||");
     EXPECT_TRUE(lista_tr.empty());
-}
-
-TEST_F(PlanoDaAgenda, OCalendarioDizOsTratosLeirasPrimeiro) {
-    st_cod_cult[0] = sem_cod_cult[0] = cult_vago;
-    planta(1, cult_alface, 1);   // REP, que não tem lista
-    planta(2, cult_cenoura, 2);  // LI
-    planta(13, cult_nabo, 2);    // DES
-    planta(24, cult_tomate, 10); // AM
-    planta(35, cult_couve, 22);  // COP
-    planta(46, cult_couve, 23);  // COF
-    semeia(10, cult_tomate, 2);  // LI
-    semeia(11, cult_agriao, 3);  // DES
-    st_check[2] = -1;            // o que já foi feito continua na agenda da semana
-    EXPECT_EQ(lista(r_li), "Tomate||A 11|; Cenoura|A 3||");
-    EXPECT_EQ(lista(r_des), "Agrião||B 1|; Nabo|B 4||");
-    EXPECT_EQ(lista(r_amo), "Tomate|C 5||");
-    EXPECT_EQ(lista(r_cop), "Couve|D 6||");
-    EXPECT_EQ(lista(r_cof), "Couve|E 7||");
-    EXPECT_EQ(lista(r_pld) + lista(r_tr) + lista(r_pls), "");
-    EXPECT_EQ(qt_tratos("LI") * 10 + qt_sem_tratos("LI"), 11);
-}
-
-TEST_F(PlanoDaAgenda, ABarraSoAndaDaDecimaPrimeiraLinhaEmDiante) {
-    for (int i = 0; i < n_canteiros; ++i) {
-        planta(i, cult_rabanete, 5);
-        monta_listas();
-        ASSERT_EQ(maximo_da_barra(r_cof), std::max(0, i + 1 - 10));
-    }
-    EXPECT_EQ(listas[r_cof][99].aonde, "J 10");
-    EXPECT_EQ(qt_tratos("COF"), 100);
-    EXPECT_EQ(maximo_da_barra(r_cop), 0);
 }
 
 } // namespace

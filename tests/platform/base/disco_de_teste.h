@@ -1,22 +1,7 @@
-// Um disco que anota tudo o que o SQLite lhe manda gravar e que falha quando se pede.
+// Um disco que falha, ou mata o programa, quando se pede.
 #pragma once
 
-#include <cstdint>
-#include <filesystem>
-#include <map>
-#include <random>
-#include <string>
-#include <vector>
-
 namespace verdalia {
-
-struct Gravacao {
-    enum class Tipo { escreve, corta, descarrega, apaga };
-    std::string arquivo; // só o nome
-    Tipo tipo;
-    std::int64_t lugar; // onde escreve, ou o tamanho depois de cortar
-    std::string bytes;
-};
 
 // Enquanto existe, todo banco aberto passa por ele. Só pode haver um.
 struct DiscoDeTeste {
@@ -25,10 +10,11 @@ struct DiscoDeTeste {
     DiscoDeTeste(const DiscoDeTeste&) = delete;
     DiscoDeTeste& operator=(const DiscoDeTeste&) = delete;
 
-    std::vector<Gravacao> diario;
     int falha_em = -1;    // a partir desta escrita (0 é a primeira)...
     int codigo_falha = 0; // ...todas dão este código do SQLite
+    bool mata = false;    // em vez de falhar, o programa acaba ali
     int escritas = 0;
+    int por_descarregar = 0; // escritas desde a última descarga
     bool so_leitura = false; // os bancos abrem como se faltasse permissão para gravar
 };
 
@@ -46,14 +32,5 @@ template <class Grava, class Confere> int enche_o_disco(Grava grava, Confere con
         if (gravou) return cabem;
     }
 }
-
-using Arquivos = std::map<std::string, std::string>; // nome, bytes
-
-// O que do diário não tinha ido de vez para o disco quando a luz acabou.
-enum class Perda { nenhuma, tudo, ao_acaso };
-
-// Os arquivos como ficam quando a luz acaba depois das primeiras `ate` gravações.
-Arquivos apos_queda(const Arquivos& antes, const std::vector<Gravacao>& diario, std::size_t ate, Perda perda,
-                    std::mt19937& sorte);
 
 } // namespace verdalia
