@@ -49,42 +49,33 @@ TEST_F(Conselho, DizQuandoSemearDeNovo) {
 }
 
 TEST_F(Conselho, ContaComoEstaCadaLugar) {
-    // O canteiro: a idade e o que a situação diz depois de "A 1 · ".
+    // O que a situação diz, com o primeiro canteiro ou a última leira assim; as memórias são pepino e chicória.
+    // clang-format off
     const struct {
-        std::int16_t cultura, idade;
+        std::int16_t cultura, idade, feito;
         const char* situacao;
-    } canteiros[] =
-        {
-            // clang-format off
-        {cult_cenoura, 2, "Cenoura · semana 3 de 14 · agora: limpar\ndepois: desbastar, daqui a 2 semanas"},
-        {cult_alface, 0, "Alface · semana 1 de 8\ndepois: repor as mudas que falharam, daqui a 1 semana"}, // o plantio está feito por si
-        {cult_alface, 5, "Alface · semana 6 de 8\ndepois: colher uma parte, daqui a 1 semana"},
-        {cult_alface, 7, "Alface · semana 8 de 8 · agora: colher tudo"},
-        {cult_vago, 0, "livre\nantes: Pepino, Chicória"},
-            // clang-format on
-        },
-      leiras[] = {
-          {cult_couve, 2, "Couve · semana 3 de 6 · agora: limpar\ndepois: desbastar, daqui a 1 semana"},
-          {cult_couve, 4, "Couve · semana 5 de 6\ndepois: transplantar, daqui a 1 semana"},
-          {cult_couve, 5, "Couve · semana 6 de 6\npronta para transplantar: leve-a nesta semana para a horta"},
-          {cult_nenhuma, 0, "livre"},
-      };
-    st_last_i_cu[0] = cult_pepino;
+    } casos[] = {
+        {cult_cenoura, 2, 0, "A 1 · Cenoura · semana 3 de 14 · agora: limpar\ndepois: desbastar, daqui a 2 semanas"},
+        {cult_cenoura, 2, -1, "A 1 · Cenoura · semana 3 de 14 · agora: limpar (feito)\ndepois: desbastar, daqui a 2 semanas"},
+        {cult_alface, 0, 0, "A 1 · Alface · semana 1 de 8\ndepois: repor as mudas que falharam, daqui a 1 semana"},
+        {cult_alface, 5, 0, "A 1 · Alface · semana 6 de 8\ndepois: colher uma parte, daqui a 1 semana"},
+        {cult_alface, 7, 0, "A 1 · Alface · semana 8 de 8 · agora: colher tudo"},
+        {cult_vago, 0, 0, "A 1 · livre\nantes: Pepino, Chicória"},
+        {cult_couve, 2, 0, "B 11 · Couve · semana 3 de 6 · agora: limpar\ndepois: desbastar, daqui a 1 semana"},
+        {cult_couve, 4, 0, "B 11 · Couve · semana 5 de 6\ndepois: transplantar, daqui a 1 semana"},
+        {cult_couve, 5, 0, "B 11 · Couve · semana 6 de 6\npronta para transplantar: leve-a nesta semana para a horta"},
+        {cult_nenhuma, 0, 0, "B 11 · livre"},
+    };
+    // clang-format on
+    st_last_i_cu[0] = st_last_i_cu[50] = cult_pepino;
     st_last_last_i_cu[0] = cult_chicoria;
-    for (const auto& c : canteiros) {
+    for (const auto& c : casos) {
         planta(0, c.cultura, c.idade);
-        EXPECT_EQ(situacao_do_canteiro(0), std::string("A 1 · ") + c.situacao);
+        semeia(21, c.cultura, c.idade);
+        st_check[0] = c.feito;
+        EXPECT_EQ(*c.situacao == 'A' ? situacao_do_canteiro(0) : situacao_da_leira(21), c.situacao);
     }
-    for (const auto& l : leiras) {
-        semeia(21, l.cultura, l.idade);
-        EXPECT_EQ(situacao_da_leira(21), std::string("B 11 · ") + l.situacao);
-    }
-    planta(99, cult_cenoura, 2);
-    st_check[99] = -1;
-    EXPECT_NE(situacao_do_canteiro(99).find("J 10 · Cenoura · semana 3 de 14 · agora: limpar (feito)"),
-              std::string::npos);
-    st_last_i_cu[50] = cult_alface;
-    EXPECT_EQ(situacao_do_canteiro(50) + situacao_do_canteiro(51), "F 1 · livre\nantes: AlfaceF 2 · livre");
+    EXPECT_EQ(situacao_do_canteiro(50) + situacao_do_canteiro(99), "F 1 · livre\nantes: PepinoJ 10 · livre");
 }
 
 } // namespace verdalia

@@ -1,8 +1,6 @@
 // Os sons construídos, ouvidos por medidas: estão todos lá, no tamanho e no volume certos, sem estalo nem sobra de
-// silêncio, e fazem-se iguais de novo.
+// silêncio.
 #include <gtest/gtest.h>
-
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -184,25 +182,6 @@ TEST(Sons, OsEfeitosSaoCurtosEOSilencioESilencio) {
         EXPECT_LT(em_db(std::abs(som.back())), -50) << nome;
         EXPECT_TRUE(nome == "silencio" ? pico(som) < -100 : pico(som) > -12 && pico(som) < -1) << nome << pico(som);
     }
-}
-
-TEST(Sons, FeitosDeNovoSaoOsMesmosBytes) {
-    std::string modelo = fs::temp_directory_path() / "sons-XXXXXX";
-    const fs::path pasta = mkdtemp(modelo.data());
-    const auto faz_de_novo = [&pasta](const std::string& tipo, const std::string& nome, const std::string& resto) {
-        const std::string destino = pasta / nome;
-        const std::string comando = (projeto / "ferramentas/som").string() + " " + tipo + " " + destino + " " + resto;
-        EXPECT_EQ(std::system(comando.c_str()), 0) << comando;
-        EXPECT_TRUE(le_arquivo(destino) == le_arquivo(programa / nome)) << nome;
-    };
-    for (const std::string sotaque : {"caipira", "ingles"}) {
-        const auto f = le_tabela(projeto / "audio/falas" / (sotaque + ".tsv"))["alf-vz"];
-        faz_de_novo("fala", "audio/" + sotaque + "/alf-vz.wav",
-                    sotaque + " " + f.at(0) + " " + f.at(1) + " \"" + f.at(2) + "\"");
-    }
-    faz_de_novo("efeito", "voup.wav", "\"" + le_tabela(projeto / "audio/efeitos.tsv")["voup"].at(0) + "\"");
-    faz_de_novo("trilha", "fefimc.wav", projeto / "audio/trilhas/fefimc.abc");
-    fs::remove_all(pasta);
 }
 
 } // namespace

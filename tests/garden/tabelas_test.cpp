@@ -42,52 +42,43 @@ constexpr struct {
 
 using Tabelas = Sementeira;
 
-TEST_F(Tabelas, CadaBotaoDaHortaPlantaFalaEExplicaASuaCultura) {
+TEST_F(Tabelas, CadaBotaoPlantaFalaEExplicaASuaCultura) {
     som_ligado = true;
-    std::int16_t lugar = 0;
-    for (const auto& c : culturas) {
-        seq_pedido[c.cultura] = 2;
-        if (c.k_sem >= 0) semeia(lugar++, c.cultura, ciclo_sem[c.cultura]); // uma leira pronta
+    for (const bool na_horta : {false, true}) {
+        esvazia();
+        roteiro.tocados.clear();
+        int lugar = 0, semeadas = 0;
+        for (const auto& c : culturas) {
+            seq_pedido[c.cultura] = 2;
+            if (na_horta && c.k_sem >= 0) semeia(semeadas++, c.cultura, ciclo_sem[c.cultura]); // uma leira pronta
+        }
+        recomeca_laco();
+        na_horta ? mostra(TelaId::trabalhando_na_horta) : mostra(TelaId::controle_da_sementeira);
+        for (const auto& c : culturas) {
+            const int k = na_horta ? c.k : c.k_sem;
+            if (k < 0) continue;
+            const std::string aviso =
+                na_horta ? c.falado + std::string("|Voce deve ") + c.trans + "plantar 2 leito(s) de " + c.falado
+                         : c.titulo_sem + std::string("|Voce deve plantar 1 lote de ") + c.lote;
+            roteiro.clica("Label3", k).aviso(aviso).clica(c.botao).confere([&] { EXPECT_EQ(falas(c.clipe), 1); });
+            const auto confere = [&, na_horta, lugar, k] {
+                SCOPED_TRACE(c.botao);
+                const Tela& t = *tela_ativa();
+                const Controle &rotulo = *t.controle("Label3", k), &botao = *t.controle(c.botao);
+                EXPECT_EQ((na_horta ? st_cod_cult[lugar] : sem_cod_cult[lugar]), c.cultura);
+                EXPECT_EQ(nome(t.controle(na_horta ? "cant" : "Image3", lugar)->figura), c.figura);
+                EXPECT_EQ(nome(botao.figura), c.figura);
+                EXPECT_TRUE(na_horta ? rotulo.texto == "1" : !rotulo.visivel);
+            };
+            (na_horta ? roteiro.arrasta(c.botao, -1, 220 + lugar % 10 * 42, 184 + lugar / 10 * 42)
+                      : semeia_com_mouse(c.botao, lugar))
+                .confere(confere);
+            ++lugar;
+        }
+        if (!na_horta) roteiro.tecla(SDLK_ESCAPE); // o "Parabéns" do último lote
+        laco();
+        EXPECT_EQ(lugar, na_horta ? 21 : 13);
     }
-    auto& h = entra_em<trabalhando_na_horta>(TelaId::trabalhando_na_horta);
-    lugar = 0;
-    for (const auto& c : culturas) {
-        const std::string aviso = c.falado + std::string("|Voce deve ") + c.trans + "plantar 2 leito(s) de " + c.falado;
-        roteiro.clica("Label3", c.k).aviso(aviso).clica(c.botao).confere([&] {
-            EXPECT_EQ(falas(c.clipe), 1) << c.botao;
-        });
-        roteiro.arrasta(c.botao, -1, 220 + lugar % 10 * 42, 184 + lugar / 10 * 42).confere([&, lugar] {
-            EXPECT_EQ(st_cod_cult[lugar], c.cultura);
-            EXPECT_EQ(nome(h.cant(lugar).figura), c.figura);
-            EXPECT_EQ(nome(h.controle(c.botao)->figura), c.figura);
-            EXPECT_EQ(h.Label3(c.k).texto, "1") << c.botao;
-        });
-        ++lugar;
-    }
-    laco();
-}
-
-TEST_F(Tabelas, CadaBotaoDaSementeiraSemeiaFalaEExplicaASuaCultura) {
-    som_ligado = true;
-    seq_pedido.fill(1);
-    auto& s = abre();
-    int r = 0;
-    for (const auto& c : culturas) {
-        if (c.k_sem < 0) continue;
-        const std::string aviso = c.titulo_sem + std::string("|Voce deve plantar 1 lote de ") + c.lote;
-        roteiro.clica("Label3", c.k_sem).aviso(aviso).clica(c.botao).confere([&] {
-            EXPECT_EQ(falas(c.clipe), 1) << c.botao;
-        });
-        semeia_com_mouse(c.botao, r).confere([&, r] {
-            EXPECT_EQ(sem_cod_cult[r], c.cultura);
-            EXPECT_EQ(leira(s, r), c.figura + std::string(" cresce0.bmp"));
-            EXPECT_FALSE(s.Label3(c.k_sem).visivel) << c.botao;
-        });
-        ++r;
-    }
-    roteiro.tecla(SDLK_ESCAPE); // o "Parabéns" do último lote
-    laco();
-    EXPECT_EQ(r, 13);
 }
 
 // O botão, a idade e a cultura que o acendem, a cor da marca e da letra, as falas e o que a face mostra num clique.
