@@ -58,6 +58,8 @@ TEST_F(Banco, OQueSeGravaVolta) {
     EXPECT_EQ(quantos_arquivos(), 1);
     EXPECT_FALSE(le_canteiros());
     EXPECT_EQ(le_data_semana(), dia(2026, 3, 4));
+    unidade_cd = 4;
+    grava_cd();
     for (int salto = 0; salto < 23; ++salto) {
         enche(salto);
         const Dia quando = dia(2026, 3, 1) + std::chrono::days{salto};
@@ -65,18 +67,16 @@ TEST_F(Banco, OQueSeGravaVolta) {
         grava_semana(quando);
         ASSERT_EQ(guardada(), esperado) << salto;
     }
-    unidade_cd = 4;
-    grava_cd();
     unidade_cd = 0;
     le_cd();
     EXPECT_EQ(unidade_cd, 4);
-    EXPECT_TRUE(avisos_do_banco.empty());
     // Lugares vagos que nada lembram não fazem uma horta.
     esvazia();
     st_cod_cult.fill(cult_vago);
     sem_cod_cult.fill(cult_vago);
     grava_canteiros();
     EXPECT_FALSE(le_canteiros());
+    EXPECT_TRUE(avisos_do_banco.empty());
 }
 
 TEST_F(Banco, RegistroEstranhoFicaDeForaEORestoEntra) {

@@ -53,6 +53,7 @@ TEST_F(Tabelas, CadaBotaoPlantaFalaEExplicaASuaCultura) {
             if (na_horta && c.k_sem >= 0) semeia(semeadas++, c.cultura, ciclo_sem[c.cultura]); // uma leira pronta
         }
         recomeca_laco();
+        auto_abastecido = true;
         na_horta ? mostra(TelaId::trabalhando_na_horta) : mostra(TelaId::controle_da_sementeira);
         for (const auto& c : culturas) {
             const int k = na_horta ? c.k : c.k_sem;

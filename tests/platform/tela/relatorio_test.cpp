@@ -43,10 +43,6 @@ struct Impressora : PartidaNaTela {
         escreve(programas / nome, "#!/bin/sh\n" + corpo);
         fs::permissions(programas / nome, fs::perms::owner_all);
     }
-    void instala_lp(const std::string& corpo) {
-        instala("lp", corpo);
-        roteiro.espera_ms(60000); // o jogador não faz nada
-    }
     void instala_visor() const { instala("xdg-open", "/bin/cp \"$1\" " + (pasta.raiz / "visto").string() + "\n"); }
     // Imprime o que as tabelas da memória pedem.
     Impresso imprime(const Relatorio& relatorio) const {
@@ -199,9 +195,10 @@ TEST_F(Impressora, AImpressoraAceitaRecusaOuNaoResponde) {
         {"/bin/sleep 20\n", Impresso::no_visor, "não respondeu em 10 segundos"},
     };
     instala_visor();
+    roteiro.espera_ms(600000); // o jogador não faz nada
     for (const auto& caso : casos) {
         SCOPED_TRACE(caso.lp);
-        instala_lp(caso.lp);
+        instala("lp", caso.lp);
         const bool demora = caso.lp.find("sleep") != std::string::npos;
         roteiro.dorme = !demora;
         const std::int64_t comeco = relogio_de_teste.ms;
