@@ -44,7 +44,7 @@ constexpr struct {
     {sementeira, "lbl_verduras", -1, "", false, "\\ajuda.wav", ajuda, "Culturas2"},
     {agenda, "hortelino", -1, hortelao, true, "", centro, ""},
     {agenda, "pic_semen", -1, mudas, true, "\\vamsem.wav", sementeira, ""},
-    {agenda, "pic_horta", -1, enxada, true, "\\vamhor.wav", horta, ""},
+    {agenda, "pic_horta", -1, enxada, false, "\\vamhor.wav", horta, ""},
     {agenda, "Label1", 3, "", false, "\\ajuda.wav", ajuda, "Agenda"},
 };
 // clang-format on
