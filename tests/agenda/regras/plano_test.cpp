@@ -37,5 +37,25 @@ TEST_F(PlanoDaAgenda, AMudaProntaLevaAQuantidadeQueOPedidoQuer) {
     EXPECT_TRUE(lista_tr.empty());
 }
 
+TEST_F(PlanoDaAgenda, OCalendarioDizOsTratosLeirasPrimeiro) {
+    st_cod_cult[0] = sem_cod_cult[0] = cult_vago;
+    planta(1, cult_alface, 1);   // REP, que não tem lista
+    planta(2, cult_cenoura, 2);  // LI
+    planta(13, cult_nabo, 2);    // DES
+    planta(24, cult_tomate, 10); // AM
+    planta(35, cult_couve, 22);  // COP
+    planta(46, cult_couve, 23);  // COF
+    semeia(10, cult_tomate, 2);  // LI
+    semeia(11, cult_agriao, 3);  // DES
+    st_check[2] = -1;            // o que já foi feito continua na agenda da semana
+    EXPECT_EQ(lista(r_li), "Tomate||A 11|; Cenoura|A 3||");
+    EXPECT_EQ(lista(r_des), "Agrião||B 1|; Nabo|B 4||");
+    EXPECT_EQ(lista(r_amo), "Tomate|C 5||");
+    EXPECT_EQ(lista(r_cop), "Couve|D 6||");
+    EXPECT_EQ(lista(r_cof), "Couve|E 7||");
+    EXPECT_EQ(lista(r_pld) + lista(r_tr) + lista(r_pls), "");
+    EXPECT_EQ(qt_tratos("LI") * 10 + qt_sem_tratos("LI"), 11);
+}
+
 } // namespace
 } // namespace verdalia
