@@ -10,6 +10,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <sqlite3.h>
 #include <sstream>
 #include <string>
 
@@ -62,6 +63,35 @@ inline void escreve(const std::filesystem::path& arquivo, const std::string& byt
     std::ofstream(arquivo, std::ios::binary) << bytes;
 }
 
+// O que outro programa lê ou muda no banco: campos entre barras, um registro por linha.
+inline std::string consulta(const std::filesystem::path& arquivo, const std::string& sql) {
+    std::string texto;
+    sqlite3* banco = nullptr;
+    EXPECT_EQ(sqlite3_open(arquivo.c_str(), &banco), SQLITE_OK);
+    const auto linha = [](void* saida, int n, char** campos, char**) {
+        auto& onde = *static_cast<std::string*>(saida);
+        for (int i = 0; i < n; ++i) onde.append(i > 0 ? "|" : "").append(campos[i] != nullptr ? campos[i] : "");
+        onde += '\n';
+        return 0;
+    };
+    EXPECT_EQ(sqlite3_exec(banco, sql.c_str(), linha, &texto, nullptr), SQLITE_OK) << sqlite3_errmsg(banco);
+    sqlite3_close(banco);
+    return texto;
+}
+
+// Outro programa que está gravando no banco, enquanto existe.
+struct BancoPreso {
+    explicit BancoPreso(const std::filesystem::path& arquivo) {
+        EXPECT_EQ(sqlite3_open(arquivo.c_str(), &outro), SQLITE_OK);
+        EXPECT_EQ(sqlite3_exec(outro, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+    }
+    BancoPreso(const BancoPreso&) = delete;
+    BancoPreso& operator=(const BancoPreso&) = delete;
+    ~BancoPreso() { sqlite3_close(outro); }
+
+    sqlite3* outro = nullptr;
+};
+
 // Um jogo novo, em memória, com as pastas do programa vazias e próprias do teste.
 struct Partida : testing::Test {
     Partida() {
@@ -111,6 +141,7 @@ struct Partida : testing::Test {
     PastaTemporaria pasta;
     std::filesystem::path jogador = pasta.raiz / "jogador";
     std::filesystem::path instalada = pasta.raiz / "instalada";
+    std::filesystem::path arquivo = jogador / "hortas00.mdb";
 };
 
 } // namespace verdalia

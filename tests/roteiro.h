@@ -94,7 +94,7 @@ struct Roteiro : Hospedeiro {
         return confere([] { FAIL() << "o jogo devia ter acabado"; });
     }
     // O aviso, "título|mensagem", que se fecha; a pergunta, que se responde; o quadro, que se lê.
-    Roteiro& aviso(const char* esperado) { return diz("ok", esperado).clica("opções"); }
+    Roteiro& aviso(std::string esperado) { return diz("ok", std::move(esperado)).clica("opções"); }
     Roteiro& pergunta(const char* esperada, bool sim) {
         return diz("form_ok_nao", esperada).clica("opções", sim ? 0 : 1);
     }
@@ -153,7 +153,7 @@ private:
     struct Ponto {
         double x, y;
     };
-    Roteiro& diz(const char* caixa, const char* esperado) {
+    Roteiro& diz(const char* caixa, std::string esperado) {
         return esta_em(caixa).confere([=] { EXPECT_EQ(tela_ativa()->titulo + "|" + msg_texto, esperado); });
     }
     Roteiro& so_um(Evento::Tipo tipo) {

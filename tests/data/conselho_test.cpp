@@ -49,34 +49,33 @@ TEST_F(Conselho, DizQuandoSemearDeNovo) {
 }
 
 TEST_F(Conselho, ContaComoEstaCadaLugar) {
-    planta(0, cult_cenoura, 2);
-    EXPECT_EQ(situacao_do_canteiro(0),
-              "A 1 · Cenoura · semana 3 de 14 · agora: limpar\ndepois: desbastar, daqui a 2 semanas");
-    st_check[0] = -1;
-    EXPECT_EQ(situacao_do_canteiro(0),
-              "A 1 · Cenoura · semana 3 de 14 · agora: limpar (feito)\ndepois: desbastar, daqui a 2 semanas");
-    planta(99, cult_alface, 0); // o plantio da semana está feito por si
-    EXPECT_EQ(situacao_do_canteiro(99),
-              "J 10 · Alface · semana 1 de 8\ndepois: repor as mudas que falharam, daqui a 1 semana");
-    st_idade[99] = 5;
-    EXPECT_EQ(situacao_do_canteiro(99), "J 10 · Alface · semana 6 de 8\ndepois: colher uma parte, daqui a 1 semana");
-    st_idade[99] = 7;
-    EXPECT_EQ(situacao_do_canteiro(99), "J 10 · Alface · semana 8 de 8 · agora: colher tudo");
-    EXPECT_EQ(situacao_do_canteiro(50), "F 1 · livre");
-    st_last_i_cu[50] = cult_alface;
-    EXPECT_EQ(situacao_do_canteiro(50), "F 1 · livre\nantes: Alface");
-    st_last_last_i_cu[50] = cult_chicoria;
-    EXPECT_EQ(situacao_do_canteiro(50), "F 1 · livre\nantes: Alface, Chicória");
-
-    semeia(21, cult_couve, 2);
-    EXPECT_EQ(situacao_da_leira(21),
-              "B 11 · Couve · semana 3 de 6 · agora: limpar\ndepois: desbastar, daqui a 1 semana");
-    sem_idade[21] = 4;
-    EXPECT_EQ(situacao_da_leira(21), "B 11 · Couve · semana 5 de 6\ndepois: transplantar, daqui a 1 semana");
-    sem_idade[21] = 5;
-    EXPECT_EQ(situacao_da_leira(21),
-              "B 11 · Couve · semana 6 de 6\npronta para transplantar: leve-a nesta semana para a horta");
-    EXPECT_EQ(situacao_da_leira(0), "A 1 · livre");
+    // O que a situação diz, com o primeiro canteiro ou a última leira assim; as memórias são pepino e chicória.
+    // clang-format off
+    const struct {
+        std::int16_t cultura, idade, feito;
+        const char* situacao;
+    } casos[] = {
+        {cult_cenoura, 2, 0, "A 1 · Cenoura · semana 3 de 14 · agora: limpar\ndepois: desbastar, daqui a 2 semanas"},
+        {cult_cenoura, 2, -1, "A 1 · Cenoura · semana 3 de 14 · agora: limpar (feito)\ndepois: desbastar, daqui a 2 semanas"},
+        {cult_alface, 0, 0, "A 1 · Alface · semana 1 de 8\ndepois: repor as mudas que falharam, daqui a 1 semana"},
+        {cult_alface, 5, 0, "A 1 · Alface · semana 6 de 8\ndepois: colher uma parte, daqui a 1 semana"},
+        {cult_alface, 7, 0, "A 1 · Alface · semana 8 de 8 · agora: colher tudo"},
+        {cult_vago, 0, 0, "A 1 · livre\nantes: Pepino, Chicória"},
+        {cult_couve, 2, 0, "B 11 · Couve · semana 3 de 6 · agora: limpar\ndepois: desbastar, daqui a 1 semana"},
+        {cult_couve, 4, 0, "B 11 · Couve · semana 5 de 6\ndepois: transplantar, daqui a 1 semana"},
+        {cult_couve, 5, 0, "B 11 · Couve · semana 6 de 6\npronta para transplantar: leve-a nesta semana para a horta"},
+        {cult_nenhuma, 0, 0, "B 11 · livre"},
+    };
+    // clang-format on
+    st_last_i_cu[0] = st_last_i_cu[50] = cult_pepino;
+    st_last_last_i_cu[0] = cult_chicoria;
+    for (const auto& c : casos) {
+        planta(0, c.cultura, c.idade);
+        semeia(21, c.cultura, c.idade);
+        st_check[0] = c.feito;
+        EXPECT_EQ(*c.situacao == 'A' ? situacao_do_canteiro(0) : situacao_da_leira(21), c.situacao);
+    }
+    EXPECT_EQ(situacao_do_canteiro(50) + situacao_do_canteiro(99), "F 1 · livre\nantes: PepinoJ 10 · livre");
 }
 
 } // namespace verdalia

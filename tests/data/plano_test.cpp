@@ -39,24 +39,26 @@ TEST_F(Plano, OPlantioSegueOIntervaloEAMudaProntaSoEsperaUmaSemana) {
 }
 
 TEST_F(Plano, UmaLeiraRecenteBasta) {
-    seq_pedido[cult_cenoura] = 4; // não passa pela sementeira
-    EXPECT_FALSE(falta_semear());
-    seq_pedido[cult_couve] = 5; // intervalo de 12 semanas, 5 de sementeira
-    EXPECT_TRUE(falta_semear());
-    semeia(0, cult_couve, 0);
-    EXPECT_FALSE(falta_semear());
-    semeia(0, cult_nenhuma, 0);
-    planta(50, cult_couve, 6); // semeado há 11 semanas
-    EXPECT_FALSE(falta_semear());
-    st_idade[50] = 7;
-    EXPECT_TRUE(falta_semear());
-    // A alface se semeia de duas em duas semanas, embora a leira anterior ainda cresça.
-    esvazia();
-    seq_pedido[cult_alface] = 1;
-    semeia(0, cult_alface, 1);
-    EXPECT_FALSE(falta_semear());
-    sem_idade[0] = 2;
-    EXPECT_TRUE(falta_semear());
+    // A leira e o canteiro de uma cultura pedida, e se falta semear; -1: não há.
+    const struct {
+        std::int16_t cultura, na_leira, no_canteiro;
+        bool falta;
+    } casos[] = {
+        {cult_cenoura, -1, -1, false}, // não passa pela sementeira
+        {cult_couve, -1, -1, true},    // intervalo de 12 semanas, 5 de sementeira
+        {cult_couve, 0, -1, false},
+        {cult_couve, -1, 6, false}, // semeado há 11 semanas
+        {cult_couve, -1, 7, true},
+        {cult_alface, 1, -1, false}, // de duas em duas semanas, embora a leira anterior ainda cresça
+        {cult_alface, 2, -1, true},
+    };
+    for (const auto& c : casos) {
+        esvazia();
+        seq_pedido[c.cultura] = 5;
+        if (c.na_leira >= 0) semeia(0, c.cultura, c.na_leira);
+        if (c.no_canteiro >= 0) planta(50, c.cultura, c.no_canteiro);
+        EXPECT_EQ(falta_semear(), c.falta) << nome_cult[c.cultura] << c.na_leira << c.no_canteiro;
+    }
 }
 
 TEST_F(Plano, Pendencias) {
@@ -78,15 +80,6 @@ TEST_F(Plano, Pendencias) {
     EXPECT_EQ(pend_leira(), 1);
     sem_check[21] = -1;
     EXPECT_EQ(pend_leira(), 2);
-}
-
-TEST_F(Plano, NomesEFiguras) {
-    EXPECT_EQ(nome_canteiro(9) + nome_canteiro(10) + nome_canteiro(99), "A 10B 1J 10");
-    EXPECT_EQ(nome_leira(10) + nome_leira(11) + nome_leira(21), "A 11B 1B 11");
-    dir_media = "D:";
-    EXPECT_EQ(fig_dia_semana(), "D:\\anima\\seman04.bmp"); // quarta-feira
-    EXPECT_EQ(fig_dia_passado(3), "D:\\anima\\seman01.bmp");
-    EXPECT_EQ(fig_dia_passado(4), "D:\\anima\\seman07.bmp");
 }
 
 } // namespace verdalia

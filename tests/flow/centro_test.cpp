@@ -1,4 +1,4 @@
-// O centro do jogo, figura por figura: os quadros, a fala, o destino, a ampulheta; o guia e a minhoca.
+// O centro do jogo: o guia e a minhoca.
 #include "roteiro.h"
 
 namespace verdalia {
@@ -11,53 +11,6 @@ struct CentroAberto : PartidaNaTela {
     }
     INTRONEW& abre() { return entra_em<INTRONEW>(TelaId::INTRONEW); }
 };
-
-TEST_F(CentroAberto, CadaFiguraMostraOsSeusQuadrosEVaiAoSeuLugar) {
-    const struct {
-        const char *figura, *palavra;
-        int indice; // da palavra que faz o mesmo
-        const char* quadros;
-        bool ampulheta;
-        const char* fala;
-        TelaId destino;
-    } figuras[] = {
-        {"pic_feira", "legenda", 0, "cesta0 cesta1 cesta2 cesta3 cesta4 cesta5 cesta6 cesta7 cesta8 cesta9", false,
-         "\\vamfei.wav", TelaId::feira_horta},
-        {"pic_horta", "legenda", 1,
-         "enx00c enx01c enx02c enx03c enx04c enx05c enx06c enx07c enx08c enx09c enx10c enx00c", false, "\\vamhor.wav",
-         TelaId::trabalhando_na_horta},
-        {"pic_semen", "legenda", 2, "mudas000 mudas001 mudas002 mudas003 mudas004 mudas005 mudas006 mudas007", true,
-         "\\vamsem.wav", TelaId::controle_da_sementeira},
-        {"pic_agenda", "legenda", 3, "age00 age01 age02 age03 age04 age05 age06 age07 age08 age09 age10", false,
-         "\\vamage.wav", TelaId::age},
-        {"saida", "legenda", 4, "port01 port02 port03 port04 port04 port03 port02 port01 port00", false, "\\s1.wav",
-         TelaId::form_ok_nao},
-        {"interroga", "interroga", -1, "int05 int04 int03 int02 int01 int00", true, "", TelaId::help},
-    };
-    som_ligado = true;
-    for (const auto& f : figuras)
-        for (const bool pela_palavra : {false, true}) {
-            SCOPED_TRACE(f.figura);
-            abre();
-            topico_help.clear();
-            roteiro.tocados.clear();
-            std::string vistos;
-            roteiro.clica(pela_palavra ? f.palavra : f.figura, pela_palavra ? f.indice : -1).espera_ms(5);
-            for (std::size_t i = 0; i < std::string(f.quadros).size(); i += std::string(f.quadros).find(' ') + 1)
-                roteiro.espera_ms(100).confere([&] {
-                    const Controle* c = tela_ativa()->controle(f.figura);
-                    vistos += (vistos.empty() ? "" : " ") + nome(c->figura).substr(0, nome(c->figura).find('.'));
-                    EXPECT_EQ(c->ponteiro == ponteiro_ampulheta, f.ampulheta);
-                });
-            roteiro.espera_ms(100).confere([&] { EXPECT_TRUE(carregada(f.destino)); });
-            laco();
-            EXPECT_EQ(vistos, f.quadros);
-            if (*f.fala != '\0') {
-                EXPECT_EQ(falas(f.fala), 1);
-            }
-            EXPECT_EQ(topico_help, f.destino == TelaId::help ? "Orgânico" : "");
-        }
-}
 
 TEST_F(CentroAberto, OGuiaAbreCadaPaginaPelaPalavraEPeloQuadro) {
     const char* const paginas[][2] = {

@@ -1,8 +1,6 @@
 // O sistema manda acabar já: nada se pergunta, e o que se fez não se perde.
 #include "roteiro.h"
 
-#include <sqlite3.h>
-
 namespace verdalia {
 namespace {
 
@@ -58,12 +56,9 @@ TEST_F(Encerra, QuemDisseQueNaoSalvaNaoESalvo) {
 }
 
 TEST_F(Encerra, OQueNaoSePodeGravarEFalha) {
-    sqlite3* outro = nullptr;
-    ASSERT_EQ(sqlite3_open((jogador / "hortas00.mdb").c_str(), &outro), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(outro, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+    const BancoPreso preso(arquivo);
     roteiro.encerra().acabou();
     abre(TelaId::INTRONEW);
-    sqlite3_close(outro);
     EXPECT_TRUE(terminou_com_falha());
 }
 

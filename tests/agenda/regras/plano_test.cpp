@@ -16,28 +16,12 @@ struct PlanoDaAgenda : Partida {
     }
 };
 
-TEST_F(PlanoDaAgenda, OQueSePlantaDiretoTemQuantidadeAteTerLugar) {
-    seq_pedido[cult_cenoura] = 2;
-    seq_pedido[cult_pepino] = 1;
-    EXPECT_EQ(lista(r_pld), "Cenoura| 2m||30 / m2; Pepino| 1m||8 / m2");
-    planta(7, cult_cenoura, 0);
-    EXPECT_EQ(lista(r_pld), "Cenoura| 1m||30 / m2; Pepino| 1m||8 / m2; Cenoura|A 8||");
-    EXPECT_EQ(lista(r_pls) + lista(r_tr), "");
-}
-
 TEST_F(PlanoDaAgenda, SemMudaProntaSeSemeiaUmaLeiraSo) {
     seq_pedido[cult_alface] = 5;
     EXPECT_EQ(lista(r_pls), "Alface|1x||");
     EXPECT_TRUE(lista_tr.empty());
     semeia(21, cult_alface, 0);
     EXPECT_EQ(lista(r_pls), "Alface|B 11||");
-    // A couve plantada há 6 semanas foi semeada há 11: a leira dela ainda conta. Há 7, já não.
-    esvazia();
-    seq_pedido[cult_couve] = 1;
-    planta(50, cult_couve, 6);
-    EXPECT_EQ(lista(r_pls), "");
-    st_idade[50] = 7;
-    EXPECT_EQ(lista(r_pls), "Couve|1x||");
 }
 
 TEST_F(PlanoDaAgenda, AMudaProntaLevaAQuantidadeQueOPedidoQuer) {
@@ -71,17 +55,6 @@ TEST_F(PlanoDaAgenda, OCalendarioDizOsTratosLeirasPrimeiro) {
     EXPECT_EQ(lista(r_cof), "Couve|E 7||");
     EXPECT_EQ(lista(r_pld) + lista(r_tr) + lista(r_pls), "");
     EXPECT_EQ(qt_tratos("LI") * 10 + qt_sem_tratos("LI"), 11);
-}
-
-TEST_F(PlanoDaAgenda, ABarraSoAndaDaDecimaPrimeiraLinhaEmDiante) {
-    for (int i = 0; i < n_canteiros; ++i) {
-        planta(i, cult_rabanete, 5);
-        monta_listas();
-        ASSERT_EQ(maximo_da_barra(r_cof), std::max(0, i + 1 - 10));
-    }
-    EXPECT_EQ(listas[r_cof][99].aonde, "J 10");
-    EXPECT_EQ(qt_tratos("COF"), 100);
-    EXPECT_EQ(maximo_da_barra(r_cop), 0);
 }
 
 } // namespace

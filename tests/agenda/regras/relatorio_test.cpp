@@ -12,21 +12,7 @@ namespace {
 struct TabelasDoRelatorio : Partida {
     TabelasDoRelatorio() { prepara_banco(); }
 
-    // O que outro programa lê no arquivo: campos entre barras, um registro por linha.
-    std::string consulta(const std::string& sql) const {
-        std::string texto;
-        sqlite3* banco = nullptr;
-        EXPECT_EQ(sqlite3_open((jogador / "hortas00.mdb").c_str(), &banco), SQLITE_OK);
-        const auto linha = [](void* saida, int n, char** campos, char**) {
-            auto& onde = *static_cast<std::string*>(saida);
-            for (int i = 0; i < n; ++i) onde.append(i > 0 ? "|" : "").append(campos[i] != nullptr ? campos[i] : "");
-            onde += '\n';
-            return 0;
-        };
-        EXPECT_EQ(sqlite3_exec(banco, sql.c_str(), linha, &texto, nullptr), SQLITE_OK) << sqlite3_errmsg(banco);
-        sqlite3_close(banco);
-        return texto;
-    }
+    std::string consulta(const std::string& sql) const { return verdalia::consulta(arquivo, sql); }
     std::string tudo() const { return consulta("SELECT * FROM relat") + consulta("SELECT * FROM rr") + mapa("*"); }
     std::string mapa(const std::string& campos, const std::string& letras = "ABCDEFGHIJ") const {
         return consulta("SELECT " + campos + " FROM mapa_horta WHERE instr('" + letras + "', ordem)");
@@ -99,24 +85,17 @@ TEST_F(TabelasDoRelatorio, DiscoCheioDeixaAsTresComoEstavam) {
     st_cod_cult[5] = cult_vago;
     refaz();
     const std::string antes = tudo();
-    DiscoDeTeste disco;
-    disco.codigo_falha = SQLITE_FULL;
-    int cabem = 0;
-    for (bool gravou = false; !gravou; ++cabem) {
-        SCOPED_TRACE(cabem);
-        planta(0, cult_rabanete, 5);
-        st_cod_cult[6] = cult_vago;
-        disco.escritas = 0;
-        disco.falha_em = cabem;
+    planta(0, cult_rabanete, 5);
+    st_cod_cult[6] = cult_vago;
+    const auto refez = [] {
         try {
             refaz();
-            gravou = true;
+            return true;
         } catch (const ErroBanco&) {
+            return false;
         }
-        disco.falha_em = -1;
-        ASSERT_EQ(tudo() == antes, !gravou);
-    }
-    EXPECT_GT(cabem, 3);
+    };
+    EXPECT_GT(enche_o_disco(refez, [&](bool gravou) { ASSERT_EQ(tudo() == antes, !gravou); }), 2);
 }
 
 } // namespace

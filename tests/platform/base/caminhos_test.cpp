@@ -52,13 +52,10 @@ TEST_F(Caminhos, CaminhosTortosSaoRecusados) {
 TEST_F(Caminhos, GravaSempreNaPastaDoJogador) {
     escreve(instalada / "gm.mdb", "i");
     EXPECT_EQ(para_gravar("\\gm.mdb"), jogador / "gm.mdb");
-    EXPECT_TRUE(fs::is_directory(jogador));
-    EXPECT_FALSE(fs::exists(jogador / "gm.mdb"));
+    EXPECT_TRUE(fs::is_directory(jogador) && !fs::exists(jogador / "gm.mdb"));
     escreve(jogador / "GM.MDB", "j");
     EXPECT_EQ(para_gravar("\\gm.mdb"), jogador / "GM.MDB");
-
-    escreve(pasta.raiz / "arquivo", "");
-    define_pastas(pasta.raiz / "arquivo" / "pasta", instalada);
+    define_pastas(jogador / "GM.MDB" / "pasta", instalada);
     EXPECT_THROW(para_gravar("\\gm.mdb"), std::runtime_error);
 }
 

@@ -9,10 +9,6 @@
 namespace verdalia {
 namespace {
 
-constexpr const char* verduras[] = {"couv",  "nab",  "vag", "chic", "chei", "pep",   "broc",
-                                    "quiab", "rab",  "ruc", "beri", "esp",  "cflor", "rep",
-                                    "alh",   "agri", "bet", "alf",  "tom",  "pim",   "cen"};
-
 // As amostras do arquivo que o jogo acha sob esse nome.
 std::string amostras(const std::string& caminho) {
     const auto arquivo = acha(caminho);
@@ -57,15 +53,6 @@ struct ComAparelho : PartidaNaTela {
         aparelho = std::make_unique<AparelhoDeSom>();
         return sem_silencio(fita);
     }
-    // O que se ouve de uma visita à barraca de `ms` milissegundos.
-    std::string ouvido_na_feira(std::int64_t ms) {
-        recomeca_laco();
-        roteiro.espera_ms(ms);
-        mostra(TelaId::feira_horta);
-        laco();
-        if (Mix_QuerySpec(nullptr, nullptr, nullptr) != 0) deixa_acabar();
-        return ouvido();
-    }
 
     std::unique_ptr<AparelhoDeSom> aparelho;
 };
@@ -86,16 +73,6 @@ TEST_F(ComAparelho, CadaSotaqueTocaOsSeusClipesESoComAVozLigada) {
     }
 }
 
-TEST_F(ComAparelho, GravacaoNaPastaDoJogadorTomaOLugarDoClipe) {
-    som_ligado = true;
-    const std::string instalado = amostras(dir_audio + "\\couve.wav"), outro = amostras("\\oia.wav");
-    escreve(jogador / "audio" / "correto" / "Couve.WAV", conteudo(*acha("\\oia.wav")));
-    fala("\\couve.wav", sem_esperar);
-    deixa_acabar();
-    EXPECT_TRUE(ouvido() == sem_silencio(outro));
-    EXPECT_FALSE(instalado == outro);
-}
-
 TEST_F(ComAparelho, SomNovoCortaOAnterior) {
     efeito("\\hortafim.wav", sem_esperar);
     const auto gravado = [this] {
@@ -114,19 +91,6 @@ TEST_F(ComAparelho, SomNovoCortaOAnterior) {
     EXPECT_GT(antes.size(), 2000U);
     EXPECT_LT(antes.size(), trilha.size());
     EXPECT_TRUE(antes == trilha.substr(0, antes.size()));
-}
-
-TEST_F(ComAparelho, NaFeiraATrilhaSoComAMusicaEOsPregoesSoComAVoz) {
-    trilha_feira = "\\fefimc.wav";
-    EXPECT_EQ(ouvido_na_feira(20000), "");
-    musica_ligada = true;
-    EXPECT_TRUE(ouvido_na_feira(20000) == sem_silencio(amostras(trilha_feira)));
-    musica_ligada = false;
-    som_ligado = true;
-    const std::string pregao = ouvido_na_feira(2520);
-    EXPECT_TRUE(std::any_of(std::begin(verduras), std::end(verduras), [&](const char* v) {
-        return pregao == sem_silencio(amostras(dir_audio + "\\" + v + "-vz.wav"));
-    }));
 }
 
 TEST_F(ComAparelho, SomEsperadoSeguraQuemOPediuEAJanelaContinuaViva) {

@@ -100,8 +100,10 @@ TEST_F(Laco, ClicaNoDeCimaNoInativoENoFundo) {
     EXPECT_EQ(feitos, (Lista{"muda de cima", "botão", "fundo"}));
 }
 
-TEST_F(Laco, ArrasteCaiNaCasaNoFundoENaoForaDaJanela) {
-    roteiro.arrasta("muda", 0, 300 + 41.9, 200 + 42).arrasta("muda", 1, 250, 30).arrasta("muda", 0, 900, 700);
+TEST_F(Laco, ArrasteCaiNaCasaENoFundoDeOndeVoltaVoandoENaoForaDaJanela) {
+    roteiro.arrasta("muda", 0, 300 + 41.9, 200 + 42).confere([] { EXPECT_FALSE(voando()); });
+    roteiro.arrasta("muda", 1, 250, 30).confere([] { EXPECT_TRUE(voando()); }).espera_ms(400);
+    roteiro.confere([] { EXPECT_FALSE(voando()); }).arrasta("muda", 0, 900, 700);
     roteiro.clica("muda", 0).arrasta("muda", 0, bancada.muda(1).esquerda + 5, 305);
     laco();
     EXPECT_EQ(feitos, (Lista{"caiu muda0 em 10", "sobre a muda 1", "fora muda", "clique na muda", "sobre a muda 1"}));
@@ -131,28 +133,24 @@ TEST_F(Laco, TecladoLevaFocoAcionaEArrasta) {
 }
 
 TEST_F(Laco, TabPercorreTodosOsControlesEVolta) {
-    std::vector<std::string> visitados;
-    for (int i = 0; i < 9; ++i) roteiro.tecla(SDLK_TAB).confere([&] { visitados.push_back(bancada.foco->nome); });
+    std::string visitados;
+    for (int i = 0; i < 9; ++i) roteiro.tecla(SDLK_TAB).confere([&] { visitados += bancada.foco->nome + " "; });
     laco();
-    EXPECT_EQ(visitados, (Lista{"botao", "marca", "lista", "muda", "muda", "opcao", "opcao", "nome", "botao"}));
+    EXPECT_EQ(visitados, "botao marca lista muda muda opcao opcao nome botao ");
 }
 
 TEST_F(Laco, CaixaDeTextoListaMarcaEOpcao) {
     bancada.nome_.muda = [this] { feitos.push_back(bancada.nome_.texto); };
     roteiro.clica("nome").escreve("çã").escreve("éî").escreve("x").teclas({SDLK_BACKSPACE, SDLK_HOME, SDLK_DELETE});
-    roteiro.escreve("A");
-    roteiro.clica("lista").clica_em(60, 140 + 30 * 2 + 15).confere([this] { EXPECT_EQ(bancada.lista.escolhido, 1); });
-    roteiro.tecla(SDLK_DOWN).tecla(SDLK_RETURN).confere([this] { EXPECT_TRUE(bancada.lista.esta_aberta); });
-    roteiro.tecla(SDLK_RETURN)
-        .confere([this] { EXPECT_FALSE(bancada.lista.esta_aberta); })
-        .clica("marca")
-        .clica("opcao", 0)
-        .clica("opcao", 1);
+    roteiro.escreve("A").clica("lista").clica_em(60, 140 + 30 * 2 + 15);
+    roteiro.confere([this] { EXPECT_EQ(bancada.lista.escolhido, 1); }).tecla(SDLK_DOWN).tecla(SDLK_RETURN);
+    roteiro.confere([this] { EXPECT_TRUE(bancada.lista.esta_aberta); }).tecla(SDLK_RETURN);
+    roteiro.clica("marca").clica("opcao", 0).clica("opcao", 1);
     laco();
     EXPECT_EQ(feitos, (Lista{"çã", "çãéî", "çãé", "ãé", "Aãé"})); // conta letras, e não bytes
     EXPECT_EQ(bancada.lista.escolhido, 2);
+    EXPECT_FALSE(bancada.lista.esta_aberta || bancada.opcao(0).marcada);
     EXPECT_TRUE(bancada.marca.marcada && bancada.opcao(1).marcada);
-    EXPECT_FALSE(bancada.opcao(0).marcada);
 }
 
 TEST_F(Laco, DicaEDeQuemAChamouESoVemQuandoOMouseAnda) {
@@ -181,15 +179,6 @@ TEST_F(Laco, DicaEDeQuemAChamouESoVemQuandoOMouseAnda) {
     dica("").aponta(86, 320).espera_ms(700);
     dica("da muda");
     laco();
-}
-
-TEST_F(Laco, ArrasteQueNaoCaiEmNadaVoltaVoando) {
-    roteiro.arrasta("muda", 0, 250, 30).confere([] { EXPECT_TRUE(voando()); }).espera_ms(400).confere([] {
-        EXPECT_FALSE(voando());
-    });
-    roteiro.arrasta("muda", 0, 320, 220).confere([] { EXPECT_FALSE(voando()); });
-    laco();
-    EXPECT_EQ(feitos, (Lista{"fora muda", "caiu muda0 em 0"}));
 }
 
 TEST_F(Laco, TemporizadorAndaComATelaNoAltoEComDialogoPorCima) {
@@ -241,18 +230,15 @@ TEST_F(Laco, SomEsperadoGuardaOsCliquesEOQueMudaDepoisSePinta) {
     bancada.botao.clique = [this] {
         const auto antes = relogio_de_teste.ms;
         sndPlaySoundA("\\blip.wav", espera_o_fim);
-        EXPECT_EQ(relogio_de_teste.ms - antes, 300);
-        feitos.push_back("soou");
+        feitos.push_back("soou " + std::to_string(relogio_de_teste.ms - antes));
         bancada.cor_fundo = {0, 0, 0};
     };
-    roteiro.clica("botao").espera_ms(400).confere([this] {
+    roteiro.clica("botao").espera_ms(100).clica("muda", 0).espera_ms(1000).confere([this] {
         const auto* pontos = static_cast<const std::uint32_t*>(roteiro.janela->pixels);
         EXPECT_EQ(pontos[roteiro.janela->pitch / 4 * 590 + 5] & 0xffffff, 0U);
     });
-    roteiro.clica("botao").espera_ms(100).clica("muda", 0).espera_ms(1000);
     laco();
-    EXPECT_EQ(feitos, (Lista{"soou", "soou", "clique na muda"}));
-    EXPECT_EQ(roteiro.tocados, (Lista{"\\blip.wav", "\\blip.wav"}));
+    EXPECT_EQ(feitos, (Lista{"soou 300", "clique na muda"}));
 }
 
 TEST_F(Laco, DuasTelasNaoSeEncontramQuandoUmaSaiPorBaixoDoDialogo) {
