@@ -1,5 +1,5 @@
 // Medidas das telas, com o pintor de software e sem janela: abrir, pintar em dois tamanhos, acertar o tabuleiro cheio,
-// um tique da apresentação.
+// um tique da apresentação; a ajuda de um documento grande; o jogo da memória.
 #include "agenda/regras/plano.h"
 #include "agenda/regras/relatorio.h"
 #include "data/banco.h"
@@ -7,6 +7,7 @@
 #include "data/plano.h"
 #include "fabricas.h"
 #include "flow/comum/saida.h"
+#include "flow/regras/calendario.h"
 #include "platform/base/arquivo.h"
 #include "platform/base/caminhos.h"
 #include "platform/tela/desenho_rpt.h"
@@ -14,6 +15,7 @@
 
 #include <benchmark/benchmark.h>
 #include <cstdlib>
+#include <malloc.h>
 
 namespace {
 
@@ -82,6 +84,70 @@ void visita(benchmark::State& estado, TelaId tela) {
 BENCHMARK_CAPTURE(visita, centro, TelaId::INTRONEW)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(visita, horta_com_100_canteiros, TelaId::trabalhando_na_horta)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(visita, feira, TelaId::feira_horta)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(visita, agenda, TelaId::age)->Unit(benchmark::kMillisecond);
+
+// Um clique no planeta da agenda, com a horta cheia: a semana, as listas, as tabelas gravadas e a pintura.
+void planeta_na_agenda(benchmark::State& estado) {
+    comeca();
+    SemJanela janela(largura_logica, altura_logica);
+    mostra(TelaId::age);
+    auto& agenda = carrega_como<age>(TelaId::age);
+    for (auto _ : estado) {
+        agenda.previsao_Click();
+        pinta_tudo();
+        estado.PauseTiming();
+        volta_ao_tempo_real();
+        estado.ResumeTiming();
+    }
+    descarrega_tudo();
+}
+BENCHMARK(planeta_na_agenda)->Unit(benchmark::kMillisecond);
+
+BENCHMARK_CAPTURE(visita, ranking, TelaId::rank_form)->Unit(benchmark::kMillisecond);
+
+// O jogo da memória, das 36 cartas lidas e distribuídas até o primeiro quadro. Limite: 40 ms.
+BENCHMARK_CAPTURE(visita, memoria, TelaId::gamedio)->Unit(benchmark::kMillisecond);
+
+// Do clique à carta pintada. Limite: um quadro, 16 ms.
+void vira_carta(benchmark::State& estado, int largura, int altura) {
+    comeca();
+    SemJanela janela(largura, altura);
+    mostra(TelaId::gamedio);
+    pinta_tudo();
+    auto& jogo = carrega_como<gamedio>(TelaId::gamedio);
+    int carta = 0;
+    for (auto _ : estado) {
+        jogo.Timer1.intervalo = 0;
+        jogo.figura(carta = (carta + 1) % n_cartas).clique();
+        pinta_tudo();
+    }
+    descarrega_tudo();
+}
+BENCHMARK_CAPTURE(vira_carta, 1x, 792, 592)->Unit(benchmark::kMillisecond)->Iterations(200);
+BENCHMARK_CAPTURE(vira_carta, 4k, 3840, 2160)->Unit(benchmark::kMillisecond)->Iterations(200);
+
+// Mil jogos seguidos, sem pedir nome; `bytes` é quanto a memória cresceu depois dos primeiros dez.
+void mil_jogos(benchmark::State& estado) {
+    comeca();
+    SemJanela janela(792, 592);
+    mostra(TelaId::gamedio);
+    auto& jogo = carrega_como<gamedio>(TelaId::gamedio);
+    std::size_t antes = 0;
+    int jogados = 0;
+    for (auto _ : estado) {
+        if (jogados++ == 10) antes = mallinfo2().uordblks;
+        jogo.iniciar();
+        for (int f = 1; f <= n_pares; ++f) {
+            for (int i = 0; i < n_cartas; ++i)
+                if (jogo.valor_carta[i] == f) jogo.figura(i).clique();
+            while (jogo.Timer1.intervalo != 0) jogo.Timer1_Timer();
+        }
+        jogo.Timer3.intervalo = 0;
+    }
+    estado.counters["bytes"] = static_cast<double>(mallinfo2().uordblks) - static_cast<double>(antes);
+    descarrega_tudo();
+}
+BENCHMARK(mil_jogos)->Unit(benchmark::kMillisecond)->Iterations(1000);
 
 void monta_matriz_e_pinta(benchmark::State& estado) {
     comeca();
@@ -127,5 +193,43 @@ void pdf_de_horta_cheia(benchmark::State& estado) {
     }
 }
 BENCHMARK(pdf_de_horta_cheia)->Unit(benchmark::kMillisecond);
+
+// A ajuda com um documento de 200 kB: cinco tópicos de 40 kB, cada um quase no limite das 500 linhas.
+void com_documento_grande() {
+    comeca();
+    std::string documento;
+    for (int topico = 0; topico < 5; ++topico) {
+        documento += "###T" + std::to_string(topico) + "\r\n";
+        for (const std::size_t fim = documento.size() + 40960; documento.size() < fim;)
+            documento +=
+                "A ##cenoura|T1~ e o ##rabanete|T2~ guardam comida na raiz. Raiz mexida muitas vezes cresce torta. A "
+                "vagem e o pepino têm semente grande, que nasce com força, e a muda nem faz falta.\r\n\r\n";
+    }
+    grava_arquivo(para_gravar("\\help.Txt"), documento);
+    topico_help = "Atividades";
+}
+
+// Compila, abre e pinta o primeiro tópico. Limite: 50 ms.
+void abre_ajuda_de_200_kB(benchmark::State& estado) {
+    com_documento_grande();
+    visita(estado, TelaId::help);
+}
+BENCHMARK(abre_ajuda_de_200_kB)->Unit(benchmark::kMillisecond);
+
+// Rola uma linha e pinta. Limite: 5 ms.
+void rola_uma_linha_da_ajuda(benchmark::State& estado) {
+    com_documento_grande();
+    SemJanela janela(792, 592);
+    mostra(TelaId::help);
+    pinta_tudo();
+    auto& h = carrega_como<help>(TelaId::help);
+    for (auto _ : estado) {
+        h.TextVScroll.valor = (h.TextVScroll.valor + 1) % h.TextVScroll.maximo;
+        h.TextVScroll_Change();
+        pinta_tudo();
+    }
+    descarrega_tudo();
+}
+BENCHMARK(rola_uma_linha_da_ajuda)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "data/banco.h"
 #include "data/estado.h"
 #include "flow/comum/dialogos.h"
+#include "flow/comum/unidades.h"
 #include "platform/base/caminhos.h"
 #include "platform/tela/laco.h"
 
@@ -43,21 +44,11 @@ void Conf_cd::Form_Load() {
 }
 
 void Conf_cd::Combo1_Change() {
-    procura_unidades();
-    const std::string nome_do_volume = nome_da_unidade(Combo1.escolhido);
-    o_que_ha.texto = Combo1.escolhido == 0    ? "As figuras e os sons que vêm com o jogo."
-                     : nome_do_volume.empty() ? "Nenhum disco com figuras nesta unidade."
-                                              : "Disco " + nome_do_volume + ".";
+    o_que_ha.texto = o_que_ha_na_unidade(Combo1.escolhido);
 }
 
 void Conf_cd::Command1_Click() {
-    procura_unidades();
-    if (!unidade_tem_figuras(Combo1.escolhido)) {
-        avisa(titulo, "A unidade " + Combo1.itens[static_cast<std::size_t>(Combo1.escolhido)] +
-                          " não tem as figuras do jogo (a pasta anima). Escolha outra unidade, ou ponha o disco e "
-                          "tente de novo.");
-        return;
-    }
+    if (!unidade_serve(titulo, Combo1.escolhido)) return;
     unidade_cd = static_cast<std::int16_t>(Combo1.escolhido);
     tenta_no_banco(titulo, "A unidade de antes continua valendo.", grava_cd);
     descarrega(*this);

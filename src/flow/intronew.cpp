@@ -5,10 +5,11 @@
 #include "data/plano.h"
 #include "flow/comum/dialogos.h"
 #include "flow/comum/falas.h"
+#include "flow/comum/minhoca.h"
 #include "flow/comum/saida.h"
 #include "flow/comum/series.h"
+#include "flow/comum/unidades.h"
 #include "flow/regras/calendario.h"
-#include "platform/base/caminhos.h"
 #include "platform/tela/laco.h"
 
 namespace verdalia {
@@ -71,9 +72,6 @@ constexpr Serie series[] = {
 // clang-format on
 
 constexpr int intervalo_da_minhoca = 100;
-constexpr double passo_da_minhoca = 50 * twip;
-constexpr double minhoca_volta_em = 2400 * twip;
-constexpr double minhoca_vai_em = 10200 * twip;
 
 } // namespace
 
@@ -134,8 +132,7 @@ void INTRONEW::Form_Load() {
     nhoca_esquerda = true;
     nome_banco = "\\hortas00.mdb";
     tenta_no_banco("Atenção ...", "As figuras continuam a vir da mesma unidade.", le_cd);
-    if (unidade_cd >= 0 && unidade_cd < static_cast<int>(letras_de_unidade.size()))
-        dir_media = letras_de_unidade[static_cast<std::size_t>(unidade_cd)];
+    usa_unidade(unidade_cd);
     saida.figura = carrega_figura(dir_media + "\\anima\\port00.bmp");
     pic_feira.figura = carrega_figura(dir_media + "\\anima\\cesta9.bmp");
     pic_agenda.figura = carrega_figura(dir_media + "\\anima\\age10.bmp");
@@ -238,16 +235,7 @@ void INTRONEW::Label2_Click() {
 }
 
 void INTRONEW::Timer1_Timer() {
-    const bool anda = nhoca_quadro > 3;
-    const int quadro = anda ? 6 - nhoca_quadro : nhoca_quadro;
-    if (anda) pic_nhoca.esquerda += nhoca_esquerda ? -passo_da_minhoca : passo_da_minhoca;
-    pic_nhoca.figura = carrega_figura(dir_media + (nhoca_esquerda ? "\\anima\\nhoca" : "\\anima\\nh") +
-                                      std::to_string(quadro) + "p.bmp");
-    if (nhoca_esquerda && pic_nhoca.esquerda < minhoca_volta_em)
-        nhoca_esquerda = false;
-    else if (!nhoca_esquerda && pic_nhoca.esquerda > minhoca_vai_em)
-        nhoca_esquerda = true;
-    nhoca_quadro = static_cast<std::int16_t>((nhoca_quadro + 1) % 7);
+    passo_da_minhoca(pic_nhoca, nhoca_quadro, nhoca_esquerda);
 }
 
 } // namespace verdalia

@@ -25,7 +25,7 @@ void MarcaDeTrato::pinta(Pintor& p, const Retangulo& r) {
 }
 
 void FiguraDeCultura::pinta(Pintor& p, const Retangulo& r) {
-    if (em_destaque) p.moldura({r.x - 1, r.y - 1, r.largura + 2, r.altura + 2}, 9, 1.2, cor_ouro, {0xff, 0xf6, 0xd0});
+    if (em_destaque) p.moldura({r.x - 1, r.y - 1, r.largura + 2, r.altura + 2}, 9, 2, cor_ouro, {0xff, 0xf6, 0xd0});
     Figura::pinta(p, r);
 }
 

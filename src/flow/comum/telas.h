@@ -15,6 +15,8 @@ enum class TelaId : int {
     age,
     help,
     gamedio,
+    mem_ok,
+    rank_form,
     ok,
     form_ok_nao,
     ok_help,

@@ -1,0 +1,299 @@
+// A ajuda como o jogador a usa: abrir de cada tela e voltar, seguir ligações, rolar, e o que dá errado.
+#include "hypertext/regras/motor.h"
+#include "platform/base/texto.h"
+#include "roteiro.h"
+
+namespace verdalia {
+namespace {
+
+struct Ajuda : PartidaNaTela {
+    help& abre(const char* topico, const char* origem = "horta") {
+        topico_help = topico;
+        tela_origem = origem;
+        return entra_em<help>(TelaId::help);
+    }
+    // Um documento do jogador no lugar de "Atividades".
+    help& abre_texto(const std::string& texto) {
+        escreve(jogador / "help.Txt", cp1252_de_utf8(texto));
+        return abre("Atividades");
+    }
+    static const Zona& zona(const std::string& alvo) {
+        for (int i = 1; i <= n_zonas_tela; ++i)
+            if (utf8_de_1252(zonas[i].alvo) == alvo) return zonas[i];
+        throw std::logic_error("não há à vista ligação para " + alvo);
+    }
+    static double meio_x(const Zona& z) { return (z.esq + z.dir) / 2.0; }
+    static double meio_y(const Zona& z) { return (z.topo + z.base) / 2.0; }
+    static void segue(help& h, const std::string& alvo, int botao = 1) {
+        h.TextPictureBox_MouseDown(botao, 0, meio_x(zona(alvo)), meio_y(zona(alvo)));
+    }
+    static std::string topico() { return utf8_de_1252(topico_atual); }
+    // Clica com o mouse no meio da ligação, que tem de estar à vista já.
+    Roteiro& clica_ligacao(const help& h, const std::string& alvo) {
+        const Retangulo primeira = h.controle("ligacao", 1)->lugar();
+        const double desvio_x = primeira.x - zonas[1].esq * twip, desvio_y = primeira.y - zonas[1].topo * twip;
+        return roteiro.clica_em(desvio_x + meio_x(zona(alvo)) * twip, desvio_y + meio_y(zona(alvo)) * twip);
+    }
+    static std::string a_vista(const help& h) {
+        return std::string(h.TextPictureBox.visivel ? "texto" : "") + (h.imagespicturebox.visivel ? "+figura" : "");
+    }
+};
+
+TEST_F(Ajuda, DeCadaTelaCadaPalavraAbreOSeuDocumentoEVolta) {
+    struct Palavra {
+        TelaId de;
+        const char* tela;
+        const char* controle;
+        int indice;
+        const char* topico;
+    };
+    constexpr Palavra palavras[] = {
+        {TelaId::trabalhando_na_horta, "trabalhando_na_horta", "lbl_atividades", -1, "Atividades da Horta"},
+        {TelaId::trabalhando_na_horta, "trabalhando_na_horta", "lbl_verduras", 0, "Verduras de Plantio Direto"},
+        {TelaId::trabalhando_na_horta, "trabalhando_na_horta", "lbl_verduras", 1, "Verduras de Muda"},
+        {TelaId::controle_da_sementeira, "controle_da_sementeira", "lbl_atividades", -1, "Atividades da Sementeira"},
+        {TelaId::controle_da_sementeira, "controle_da_sementeira", "lbl_verduras", -1, "Verduras de Muda"},
+        {TelaId::age, "age", "Label1", 1, "A agenda"},
+        {TelaId::age, "age", "Label1", 9, "A agenda"},
+        {TelaId::INTRONEW, "INTRONEW", "interroga", -1, "A horta orgânica"},
+    };
+    prepara_banco();
+    primeira_carga = false;
+    for (const Palavra& p : palavras) {
+        SCOPED_TRACE(p.controle);
+        entra_em<Tela>(p.de);
+        roteiro.clica(p.controle, p.indice).espera_ms(2000).esta_em("help").confere([&p] {
+            EXPECT_EQ(topico(), p.topico);
+            // O centro do jogo fica por baixo; as telas de trabalho saem antes.
+            EXPECT_EQ(carregada(p.de), p.de == TelaId::INTRONEW);
+        });
+        roteiro.clica("theLabel1").esta_em(p.tela).confere([] {
+            EXPECT_FALSE(carregada(TelaId::help));
+            EXPECT_FALSE(arquivos_abertos);
+        });
+        laco();
+    }
+}
+
+TEST_F(Ajuda, CadaOrigemTemASuaVolta) {
+    prepara_banco();
+    primeira_carga = false;
+    constexpr std::pair<const char*, TelaId> voltas[] = {{"horta", TelaId::trabalhando_na_horta},
+                                                         {"Orgânico", TelaId::INTRONEW},
+                                                         {"PGM", TelaId::conf},
+                                                         {"Agenda", TelaId::age},
+                                                         {"sementeira", TelaId::controle_da_sementeira},
+                                                         {"", TelaId::controle_da_sementeira}};
+    for (const auto& [origem, tela] : voltas) {
+        auto& h = abre("Opções1", origem);
+        EXPECT_EQ(topico(), "As opções");
+        roteiro.confere([&h] { h.thelabel1_Click(); }).confere([&voltou = tela] { EXPECT_TRUE(carregada(voltou)); });
+        roteiro.confere([] { descarrega_tudo(); });
+        laco();
+    }
+    abre("PGM");
+    EXPECT_EQ(topico(), "O programa Verdalia");
+    EXPECT_TRUE(std::filesystem::exists(jogador / "pgm.HTF"));
+    // Um nome que ninguém põe não abre nada, e a volta continua lá.
+    abre("Nada");
+    EXPECT_EQ(topico(), "");
+    EXPECT_EQ(n_topicos, 0);
+}
+
+TEST_F(Ajuda, OMouseSegueUmaLigacaoEAIlustracaoSeAnima) {
+    auto& h = abre("Atividades");
+    EXPECT_EQ(a_vista(h), "texto"); // o tópico de abertura não se ilustra
+    clica_ligacao(h, "O Transplante").confere([&] {
+        EXPECT_EQ(topico(), "O Transplante");
+        EXPECT_EQ(a_vista(h), "texto+figura");
+        EXPECT_EQ(nome(h.imagespicturebox.figura), "tra04.bmp");
+        EXPECT_DOUBLE_EQ(h.imagespicturebox.topo, 80);
+        EXPECT_NEAR(h.imagespicturebox.esquerda + h.imagespicturebox.largura / 2, 1600 * twip / 2, 0.01);
+        EXPECT_EQ(h.TextPictureBox.ponteiro, ponteiro_normal);
+    });
+    roteiro.clica("imagespicturebox").espera_ms(150).confere([&] {
+        EXPECT_EQ(nome(h.imagespicturebox.figura), "tra04.bmp");
+        EXPECT_EQ(anim_quadros, 78);
+    });
+    roteiro.espera_ms(100 * 77).confere([&] { EXPECT_EQ(nome(h.imagespicturebox.figura), "tra03.bmp"); });
+    roteiro.espera_ms(300).confere([&] {
+        EXPECT_EQ(nome(h.imagespicturebox.figura), "tra04.bmp");
+        EXPECT_EQ(h.timer_.intervalo, 0);
+    });
+    laco();
+    // A que não se anima fecha-se, e o texto fica como estava.
+    h.segue_ligacao("ALFACE");
+    EXPECT_EQ(nome(h.imagespicturebox.figura), "az_ALF.bmp");
+    h.imagespicturebox_Click();
+    EXPECT_EQ(a_vista(h), "texto");
+    EXPECT_EQ(topico(), "ALFACE");
+    // A que é do programa, a do dia de hoje (uma quarta-feira), e nenhuma.
+    h.segue_ligacao(cp1252_de_utf8("O botão da agenda"));
+    EXPECT_EQ(h.imagespicturebox.figura->caminho, "\\agenda.bmp");
+    EXPECT_FALSE(h.imagespicturebox.figura->falta);
+    h.segue_ligacao(cp1252_de_utf8("O botão do calendário (tempo real)"));
+    EXPECT_EQ(nome(h.imagespicturebox.figura), "seman04.bmp");
+    h.segue_ligacao("As Ferramentas");
+    EXPECT_EQ(a_vista(h), "texto");
+}
+
+TEST_F(Ajuda, AMinhocaTomaAVezDaIlustracao) {
+    auto& h = abre("Atividades");
+    h.segue_ligacao("A Colheita Final e Parcial");
+    h.imagespicturebox_Click();
+    const double de = h.pic_nhoca.esquerda;
+    roteiro.espera_ms(350).clica("pic_nhoca").espera_ms(100 * 23).confere([&] {
+        EXPECT_EQ(nome(h.imagespicturebox.figura), "cof09.bmp"); // parou no terceiro quadro, a partir do oitavo
+        EXPECT_NEAR(de - h.pic_nhoca.esquerda, 450 * twip, 0.01);
+        EXPECT_EQ(h.timer_.intervalo, 0);
+        EXPECT_EQ(h.nhoca_quadro, 0);
+    });
+    // De passeio em passeio chega ao fim da terra e se vira.
+    roteiro.confere([&] { h.pic_nhoca.esquerda = 2401 * twip; }).clica("pic_nhoca").espera_ms(100 * 23);
+    roteiro.confere([&] {
+        EXPECT_FALSE(h.nhoca_esquerda);
+        EXPECT_EQ(nome(h.pic_nhoca.figura), "nh0p.bmp");
+    });
+    laco();
+}
+
+TEST_F(Ajuda, FiguraAbertaPorUmaLigacaoFechaSeEOTextoVolta) {
+    auto& h = abre("Culturas2");
+    h.segue_ligacao("TOMATE");
+    h.TextVScroll.valor = 3;
+    h.TextVScroll_Change();
+    for (const bool pelo_teclado : {false, true}) {
+        roteiro.confere([&h, pelo_teclado] {
+            segue(h, "\\anima\\pe_tom.jpg", pelo_teclado ? 1 : 2); // qualquer botão
+            EXPECT_EQ(a_vista(h), "+figura");
+            EXPECT_FALSE(h.TextVScroll.visivel);
+            EXPECT_NEAR(h.imagespicturebox.esquerda, (792 - 320) / 2.0, 0.01);
+            EXPECT_NEAR(h.imagespicturebox.topo, (592 - 400) / 2.0, 0.01);
+        });
+        if (pelo_teclado)
+            roteiro.tecla(SDLK_ESCAPE);
+        else
+            roteiro.clica("imagespicturebox");
+        roteiro.confere([&h] {
+            EXPECT_EQ(a_vista(h), "texto");
+            EXPECT_TRUE(h.TextVScroll.visivel);
+            EXPECT_EQ(topico(), "TOMATE");
+            EXPECT_EQ(primeira_linha, 3);
+        });
+    }
+    laco();
+}
+
+TEST_F(Ajuda, ArquivosTocamAbremOuSeRecusam) {
+    escreve(jogador / "x.doc", "x");
+    escreve(pasta.raiz / "fora.wav", "x");
+    escreve(jogador / "torta.bmp", "isto não é uma figura");
+    std::filesystem::create_directories(jogador / "pasta.bmp");
+    pastas_de_montagem = {pasta.raiz / "volumes"};
+    escreve(pasta.raiz / "volumes" / "outro" / "anima" / "y.wav", "x");
+    procura_unidades();
+    auto& h = abre_texto("###Um\ntexto");
+    h.segue_ligacao("\\audio\\correto\\alface.wav");
+    h.segue_ligacao("C:\\silencio.wav");
+    EXPECT_EQ(roteiro.tocados, (std::vector<std::string>{"C:\\audio\\correto\\alface.wav", "C:\\silencio.wav"}));
+    roteiro.tocados.clear();
+
+    std::deque<std::string> ditos; // o roteiro os lê mais tarde
+    const std::string falta = "Hyperlink Error|Unable to locate media file ";
+    for (const std::string alvo : {"\\anima\\nada.bmp", "\\..\\fora.wav", "\\..\\..\\fora.wav", "/etc/x.wav",
+                                   "D:\\anima\\y.wav", "\\pasta.bmp", "\\torta.bmp", ".bmp"}) {
+        ditos.push_back(falta + (alvo[1] == ':' ? alvo : "C:" + alvo));
+        roteiro.confere([&h, alvo] { h.segue_ligacao(alvo); });
+        roteiro.aviso(ditos.back().c_str());
+        roteiro.confere([&h] { EXPECT_EQ(a_vista(h), "texto"); });
+    }
+    roteiro.confere([&h] { h.segue_ligacao("\\x.doc"); });
+    roteiro.aviso("Hyperlink Error|Unknown media file type C:\\x.doc").esta_em("help");
+    laco();
+    EXPECT_TRUE(roteiro.tocados.empty());
+    // As mídias noutra unidade: dela, e da pasta do programa, toca-se.
+    dir_media = "D:";
+    h.segue_ligacao("\\anima\\y.wav");
+    EXPECT_EQ(roteiro.tocados, std::vector<std::string>{"D:\\anima\\y.wav"});
+}
+
+TEST_F(Ajuda, RolarRefazAsLigacoes) {
+    std::string texto = "###Um\n##cima|Dois~ ";
+    for (int i = 0; i < 120; ++i) texto += "\n\nlinha " + std::to_string(i);
+    auto& h = abre_texto(texto + "\n\n##baixo|Dois~\n###Dois\nx");
+    const double x = meio_x(zona("Dois")), y = meio_y(zona("Dois"));
+    const int pagina = h.TextVScroll.pagina, maximo = h.TextVScroll.maximo;
+    EXPECT_EQ(n_zonas_tela, 1);
+    EXPECT_EQ(h.TextVScroll.passo, 1);
+    EXPECT_GT(pagina, 20);
+    h.TextPictureBox_MouseMove(0, 0, x, y);
+    EXPECT_EQ(h.TextPictureBox.ponteiro, ponteiro_mao);
+    roteiro.teclas({SDLK_DOWN, SDLK_PAGEDOWN}).confere([&] {
+        EXPECT_EQ(primeira_linha, 1 + pagina);
+        EXPECT_EQ(n_zonas_tela, 0);
+        h.TextPictureBox_MouseMove(0, 0, x, y);
+        EXPECT_EQ(h.TextPictureBox.ponteiro, ponteiro_normal);
+    });
+    roteiro.tecla(SDLK_END).confere([&] {
+        EXPECT_EQ(primeira_linha, maximo);
+        ASSERT_EQ(n_zonas_tela, 1); // a última linha está à vista, inteira
+        EXPECT_LE(zonas[1].base * twip, h.TextPictureBox.altura);
+    });
+    roteiro.tecla(SDLK_UP).confere([&] { EXPECT_EQ(primeira_linha, maximo - 1); });
+    roteiro.teclas({SDLK_PAGEUP, SDLK_HOME}).confere([&] { EXPECT_EQ(primeira_linha, 0); });
+    laco();
+    h.TextPictureBox.roda(-1);
+    EXPECT_EQ(primeira_linha, 3);
+    h.TextPictureBox.roda(5);
+    EXPECT_EQ(primeira_linha, 0);
+    h.TextVScroll.valor = maximo;
+    h.TextVScroll_Change();
+    segue(h, "Dois");
+    EXPECT_EQ(primeira_linha + h.TextVScroll.valor + h.TextVScroll.maximo, 0);
+    EXPECT_EQ(topico(), "Dois");
+}
+
+TEST_F(Ajuda, OTecladoAndaPelasLigacoesNaOrdemDeLeitura) {
+    auto& h = abre_texto("###Um\n##a|A~ ##b|B~\n\n##c|C~\n\n##d|D~ e\n###C\nfim ##volta|Um~");
+    const auto em = [&h](const char* alvo) {
+        return [&h, alvo] {
+            ASSERT_NE(h.foco, nullptr);
+            EXPECT_EQ(h.foco->nome, "ligacao");
+            EXPECT_EQ(zonas[h.foco->indice].alvo, alvo);
+        };
+    };
+    for (const char* alvo : {"A", "B", "C", "D"}) roteiro.tecla(SDLK_TAB).confere(em(alvo));
+    roteiro.tecla(SDLK_TAB).confere([&] { EXPECT_EQ(h.foco, &h.theLabel1); });
+    roteiro.tecla(SDLK_TAB, true).tecla(SDLK_TAB, true).confere(em("C"));
+    roteiro.tecla(SDLK_RETURN).confere([] { EXPECT_EQ(topico(), "C"); });
+    roteiro.tecla(SDLK_TAB).confere(em("Um")).tecla(SDLK_SPACE).confere([] { EXPECT_EQ(topico(), "Um"); });
+    laco();
+}
+
+TEST_F(Ajuda, DocumentoQueNaoSeLeAvisaEAVoltaFunciona) {
+    std::filesystem::create_directories(jogador / "help.Txt"); // uma pasta no lugar do documento
+    topico_help = "Atividades";
+    tela_origem = "horta";
+    roteiro.aviso(
+        "Atenção ...|O arquivo \"help.Txt\", com o texto da ajuda, não foi encontrado. A ajuda fica em branco; "
+        "\"Retornar\" volta ao jogo.");
+    roteiro.esta_em("help").tecla(SDLK_PAGEDOWN).clica("TextPictureBox").clica("theLabel1");
+    roteiro.esta_em("trabalhando_na_horta");
+    mostra(TelaId::help);
+    laco();
+}
+
+TEST_F(Ajuda, TextoTortoMostraSeSemTravar) {
+    const std::string nulos("a\0b\1c", 5);
+    auto& h = abre_texto("###Um\n" + nulos + " ##sem alvo~ ##vai|Dois~ " + std::string(1 << 20, 'x') +
+                         " fim\n###Dois\n##" + std::string(1 << 20, 'y') + "|Um~ z");
+    pinta_tudo();
+    EXPECT_EQ(n_zonas_tela, 1);
+    segue(h, "Dois");
+    pinta_tudo();
+    EXPECT_EQ(topico(), "Dois");
+    EXPECT_EQ(n_zonas_tela, 0);
+}
+
+} // namespace
+} // namespace verdalia

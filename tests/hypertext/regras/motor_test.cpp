@@ -1,0 +1,157 @@
+// As palavras, as ligações, a quebra em linhas, a impressão e as zonas.
+#include "apoio.h"
+#include "quadro_de_teste.h"
+
+namespace verdalia {
+namespace {
+
+struct Motor : Partida {
+    ~Motor() override { fecha_hipertexto(); }
+
+    // Quebra o texto de um tópico "Um".
+    int quebra(const std::string& texto) {
+        escreve(instalada / "doc.Txt", "###Um\n" + texto);
+        compila_texto("\\doc.Txt");
+        abre_hipertexto("\\doc.XXX");
+        n_linhas = static_cast<std::int16_t>(quebra_linhas("Um", quadro));
+        return n_linhas;
+    }
+    QuadroDeTeste quadro;
+};
+
+TEST_F(Motor, OProximoTermo) {
+    std::string_view s = "uma ##duas palavras|O Alvo~, fim";
+    EXPECT_EQ(proximo_termo(s), "uma ");
+    EXPECT_EQ(proximo_termo(s), "##duas palavras|O Alvo~");
+    EXPECT_EQ(proximo_termo(s), ", ");
+    EXPECT_EQ(proximo_termo(s), "fim");
+    EXPECT_EQ(proximo_termo(s), "");
+    s = "#sem til nenhum";
+    EXPECT_EQ(proximo_termo(s), "");
+}
+
+TEST_F(Motor, ALigacaoSeSepara) {
+    std::string_view rotulo, alvo;
+    EXPECT_TRUE(le_ligacao("####a b|\\anima\\x.bmp~", rotulo, alvo));
+    EXPECT_EQ(rotulo, "a b");
+    EXPECT_EQ(alvo, "\\anima\\x.bmp");
+    EXPECT_TRUE(le_ligacao("##a|" + std::string(300, 'x') + "~", rotulo, alvo));
+    EXPECT_EQ(alvo.size(), tamanho_texto);
+    for (const char* torta : {"##a~", "##a|b", "##|b~", "##a|~", "##a \r\n b|c~", "##a|b ##c|d~", "####~", ""})
+        EXPECT_FALSE(le_ligacao(torta, rotulo, alvo)) << torta;
+}
+
+TEST_F(Motor, AsLinhasQuebramNaLargura) {
+    // Cabem 48 letras depois da margem de 200, e o branco do fim da palavra conta.
+    EXPECT_EQ(quebra("123456789 123456789 123456789 123456789 1234567 abc"), 4);
+    EXPECT_EQ(linhas[0], "Um");
+    EXPECT_EQ(linhas[1], "");
+    EXPECT_EQ(linhas[2], "123456789 123456789 123456789 123456789 1234567 ");
+    EXPECT_EQ(linhas[3], "abc");
+    quebra("123456789 123456789 123456789 123456789 12345678 abc");
+    EXPECT_EQ(linhas[3], "12345678 abc");
+    // A que não cabe em linha nenhuma fica só numa delas.
+    quebra("a " + std::string(60, 'x') + " b");
+    EXPECT_EQ(linhas[2], "a ");
+    EXPECT_EQ(linhas[3], std::string(60, 'x') + " ");
+    EXPECT_EQ(linhas[4], "b");
+    // Da ligação mede-se o rótulo com a letra seguinte, e guardam-se as marcas.
+    quebra("123456789 123456789 123456789 123456789 ##1234567|Um alvo bem comprido~. b");
+    EXPECT_EQ(linhas[2], "123456789 123456789 123456789 123456789 ##1234567|Um alvo bem comprido~.");
+    EXPECT_EQ(linhas[3], " b");
+}
+
+TEST_F(Motor, ParagrafosELinhasEmendadas) {
+    EXPECT_EQ(quebra("um\ndois \ntrês\n\nquatro"), 5);
+    EXPECT_EQ(linhas[2], "umdois três ");
+    EXPECT_EQ(linhas[3], "");
+    EXPECT_EQ(linhas[4], "quatro");
+    EXPECT_EQ(quebra_linhas("Não há", quadro), 3);
+    EXPECT_EQ(linhas[0], "Não há");
+    EXPECT_EQ(linhas[2], "");
+}
+
+TEST_F(Motor, ALigacaoMalfeitaMostraSeComoTexto) {
+    EXPECT_EQ(quebra("a ##b c~ ##d|e ##f|G~ h #1 ##i|~ j ##k resto perdido"), 3);
+    EXPECT_EQ(linhas[2], "a ##b c~ ##d|e ##f|G~ h #1 ##i|~ j ");
+    desenha_linhas(quadro, 2, n_linhas);
+    EXPECT_EQ(quadro.impressos,
+              (std::vector<std::string>{"200,0:a ", "400,0:##b ", "800,0:c~ ", "1100,0:##d|e ", "1700,0:f *",
+                                        "1900,0:h ", "2100,0:#1 ", "2400,0:##i|~ ", "3000,0:j "}));
+    EXPECT_EQ(n_zonas_tela, 1);
+    // O que ficou partido entre duas linhas ainda se lê.
+    quebra("##" + std::string(46, 'b') + " c~ d");
+    desenha_linhas(quadro, 2, n_linhas);
+    EXPECT_EQ(quadro.impressos.size(), 3U);
+}
+
+TEST_F(Motor, OTituloSoSeImprimeNoComeco) {
+    quebra("abc ##de|Alvo~, fg\n\nh");
+    desenha_linhas(quadro, 0, n_linhas);
+    // O título tem 14 pontos e uma linha em branco embaixo; a linha vazia, 2.
+    EXPECT_EQ(quadro.impressos, (std::vector<std::string>{"700,0:Um", "200,560:abc ", "600,560:de,*",
+                                                          "900,560: ", "1000,560:fg ", "200,780:h"}));
+    EXPECT_TRUE(quadro.negrito);
+    desenha_linhas(quadro, 1, n_linhas);
+    EXPECT_EQ(quadro.impressos.front(), "200,40:abc ");
+    // Nada começa abaixo do pé do quadro, e nada depois da linha final.
+    quadro.alto = 39;
+    desenha_linhas(quadro, 1, n_linhas);
+    EXPECT_TRUE(quadro.impressos.empty());
+    quadro.alto = 40;
+    desenha_linhas(quadro, 1, n_linhas);
+    EXPECT_EQ(quadro.impressos.size(), 4U);
+    desenha_linhas(quadro, 1, 1);
+    EXPECT_TRUE(quadro.impressos.empty());
+}
+
+TEST_F(Motor, AsZonasTemBeirasQueNaoContam) {
+    quebra("##ab|Alvo~. ##cd|Outro~");
+    desenha_linhas(quadro, 2, n_linhas); // de 200 a 500 e de 600 a 800, de 0 a 180
+    EXPECT_EQ(zona_em(201, 1), "Alvo");
+    EXPECT_EQ(zona_em(499, 179), "Alvo");
+    EXPECT_EQ(zona_em(700, 90), "Outro");
+    EXPECT_TRUE(sobre_zona(700, 90));
+    struct Ponto {
+        double x, y;
+    };
+    for (const auto& [x, y] : {Ponto{200, 90}, {500, 90}, {300, 0}, {300, 180}, {550, 90}, {300, 300}})
+        EXPECT_FALSE(sobre_zona(x, y)) << x << ',' << y;
+    desenha_linhas(quadro, 3, n_linhas); // rolou para fora da vista
+    EXPECT_EQ(zona_em(300, 90), "");
+}
+
+TEST_F(Motor, MaisDeQuinhentasLinhasEDeCemLigacoes) {
+    std::string texto;
+    for (int i = 1; i <= 700; ++i) texto += "linha " + std::to_string(i) + "\n\n";
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(quebra(texto), max_linhas + 1);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "verdalia: ajuda: um tópico passa de 500 linhas; o resto dele fica de fora\n");
+    EXPECT_EQ(linhas[496], "linha 248 ");
+    quadro.alto = 1e9;
+    desenha_linhas(quadro, 0, n_linhas);
+    EXPECT_TRUE(quadro.impressos.back().ends_with(":linha 250 "));
+
+    texto.clear();
+    for (int i = 1; i <= 130; ++i) texto += "##x|T" + std::to_string(i) + "~ ";
+    quebra(texto);
+    testing::internal::CaptureStderr();
+    for (int vez = 0; vez < 3; ++vez) desenha_linhas(quadro, 2, n_linhas);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "verdalia: ajuda: mais de 100 ligações à vista; as últimas não levam a nada\n");
+    EXPECT_EQ(n_zonas_tela, max_ligacoes);
+    EXPECT_EQ(zonas[100].alvo, "T100");
+    EXPECT_GT(zonas[100].base, zonas[100].topo);
+}
+
+TEST_F(Motor, APalavraEnormeNaoPassaDaEscala) {
+    quebra("##" + std::string(800, 'x') + "|Alvo~ a");
+    quadro.x = 0;
+    desenha_linhas(quadro, 0, n_linhas);
+    EXPECT_EQ(zonas[1].dir, 32767);
+    EXPECT_EQ(quebra(std::string(1 << 20, 'x')), 4);
+}
+
+} // namespace
+} // namespace verdalia
