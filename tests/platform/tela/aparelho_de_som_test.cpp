@@ -44,13 +44,12 @@ struct ComAparelho : PartidaNaTela {
         aparelho.reset();
         if (SDL_WasInit(SDL_INIT_AUDIO) != 0) SDL_QuitSubSystem(SDL_INIT_AUDIO);
     }
-    static void deixa_acabar() {
-        const std::uint64_t limite = SDL_GetTicks64() + 20000;
-        while (Mix_Playing(-1) != 0 && SDL_GetTicks64() < limite) SDL_Delay(1);
-        EXPECT_EQ(Mix_Playing(-1), 0);
-    }
-    // Tudo o que soou desde que o aparelho foi ligado; desliga-o, e o próximo som recomeça a fita.
+    // Tudo o que soou desde que o aparelho foi ligado, até o fim do último som; o próximo recomeça a fita.
     std::string ouvido() {
+        const bool ligado = Mix_QuerySpec(nullptr, nullptr, nullptr) != 0;
+        const std::uint64_t limite = SDL_GetTicks64() + 20000;
+        while (ligado && Mix_Playing(-1) != 0 && SDL_GetTicks64() < limite) SDL_Delay(1);
+        EXPECT_TRUE(!ligado || Mix_Playing(-1) == 0);
         desliga();
         const std::string fita = conteudo(pasta.raiz / "fita");
         std::filesystem::remove(pasta.raiz / "fita");
@@ -63,7 +62,6 @@ struct ComAparelho : PartidaNaTela {
         roteiro.espera_ms(ms);
         mostra(TelaId::feira_horta);
         laco();
-        if (Mix_QuerySpec(nullptr, nullptr, nullptr) != 0) deixa_acabar();
         return ouvido();
     }
 
@@ -76,7 +74,6 @@ TEST_F(ComAparelho, CadaSotaqueTocaOsSeusClipesESoComAVozLigada) {
         som_ligado = true;
         const std::string clipe = amostras(dir_audio + "\\nabo.wav");
         fala("\\nabo.wav", sem_esperar);
-        deixa_acabar();
         EXPECT_TRUE(ouvido() == sem_silencio(clipe)) << sotaque;
         EXPECT_EQ(aparelho->toca(dir_audio + "\\nabo.wav"), static_cast<int>(clipe.size() / 2 * 1000 / 22050));
         ouvido();
@@ -91,7 +88,6 @@ TEST_F(ComAparelho, GravacaoNaPastaDoJogadorTomaOLugarDoClipe) {
     const std::string instalado = amostras(dir_audio + "\\couve.wav"), outro = amostras("\\oia.wav");
     escreve(jogador / "audio" / "correto" / "Couve.WAV", conteudo(*acha("\\oia.wav")));
     fala("\\couve.wav", sem_esperar);
-    deixa_acabar();
     EXPECT_TRUE(ouvido() == sem_silencio(outro));
     EXPECT_FALSE(instalado == outro);
 }
@@ -105,7 +101,6 @@ TEST_F(ComAparelho, SomNovoCortaOAnterior) {
     };
     while (gravado() < 8192) SDL_Delay(1);
     efeito("\\blip.wav", sem_esperar);
-    deixa_acabar();
     const std::string fita = ouvido(), trilha = sem_silencio(amostras("\\hortafim.wav"));
     const std::string blip = sem_silencio(amostras("\\blip.wav"));
     ASSERT_GT(fita.size(), blip.size());
