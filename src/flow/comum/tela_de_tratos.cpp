@@ -25,7 +25,7 @@ void MarcaDeTrato::pinta(Pintor& p, const Retangulo& r) {
 }
 
 void FiguraDeCultura::pinta(Pintor& p, const Retangulo& r) {
-    if (em_destaque) p.moldura({r.x - 1, r.y - 1, r.largura + 2, r.altura + 2}, 9, 2, cor_ouro, {0xff, 0xf6, 0xd0});
+    if (conta->visivel) p.moldura({r.x - 1, r.y - 1, r.largura + 2, r.altura + 2}, 9, 2, cor_ouro, {0xff, 0xf6, 0xd0});
     Figura::pinta(p, r);
 }
 
@@ -67,6 +67,7 @@ void TelaDeTratos::cria_botao_de_cultura(const BotaoDeCultura& b) {
 
 void TelaDeTratos::cria_rotulo_de_cultura(const BotaoDeCultura& b) {
     Rotulo& r = Label3.cria(b.k);
+    c_[static_cast<std::size_t>(&b - culturas.data())]->conta = &r;
     r.fica_em(b.lugar_do_rotulo);
     r.cor_fundo = {192, 192, 255};
     r.letra = {.corpo = 9, .negrito = true, .cor = {0, 0, 192}};
@@ -182,7 +183,6 @@ const BotaoDeCultura& TelaDeTratos::botao_da_cultura(std::int16_t cultura) const
 
 void TelaDeTratos::destaca(const BotaoDeCultura& b) {
     FiguraDeCultura& f = *c_[static_cast<std::size_t>(&b - culturas.data())];
-    f.em_destaque = true;
     troca_figura(f.figura, dir_media + b.figura);
 }
 

@@ -44,10 +44,10 @@ struct MarcaDeTrato : Rotulo {
     void pinta(Pintor& p, const Retangulo& r) override;
 };
 
-// O botão de uma cultura; em destaque quando o plano a pede, sobre um círculo claro.
+// O botão de uma cultura; enquanto a conta dela está à vista, tem uma moldura dourada.
 struct FiguraDeCultura : Figura {
     using Figura::Figura;
-    bool em_destaque = false;
+    const Controle* conta = nullptr;
     void pinta(Pintor& p, const Retangulo& r) override;
 };
 
