@@ -10,6 +10,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <regex.h>
 #include <sqlite3.h>
 #include <sstream>
 #include <string>
@@ -91,6 +92,22 @@ struct BancoPreso {
 
     sqlite3* outro = nullptr;
 };
+
+// Tudo o que casa com uma expressão regular estendida: por vez, o trecho e o que cada parêntese pegou.
+inline std::vector<std::vector<std::string>> casa(const std::string& texto, const char* padrao) {
+    regex_t expressao;
+    if (regcomp(&expressao, padrao, REG_EXTENDED) != 0) throw std::invalid_argument(padrao);
+    std::vector<std::vector<std::string>> achados;
+    regmatch_t partes[6];
+    for (const char* c = texto.c_str(); regexec(&expressao, c, std::size(partes), partes, 0) == 0;
+         c += partes[0].rm_eo) {
+        auto& vez = achados.emplace_back();
+        for (const regmatch_t& p : partes) vez.emplace_back(p.rm_so < 0 ? "" : std::string(c + p.rm_so, c + p.rm_eo));
+        if (partes[0].rm_eo == 0) break;
+    }
+    regfree(&expressao);
+    return achados;
+}
 
 // Um jogo novo, em memória, com as pastas do programa vazias e próprias do teste.
 struct Partida : testing::Test {

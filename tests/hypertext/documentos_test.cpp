@@ -5,7 +5,6 @@
 #include "roteiro.h"
 
 #include <map>
-#include <regex>
 #include <set>
 
 namespace verdalia {
@@ -56,7 +55,9 @@ struct Documentos : PartidaNaTela {
                 ADD_FAILURE() << topico << ": ligação malfeita: " << termo;
             }
         }
-        lido.texto = std::regex_replace(utf8_de_1252(lisos), std::regex("[ \r\n]*\r\n[ \r\n]*"), "\n");
+        for (const auto& paragrafo : casa(utf8_de_1252(lisos), "[^\r\n]+"))
+            if (const auto limpo = casa(paragrafo[0], "[^ ](.*[^ ])?"); !limpo.empty())
+                lido.texto += (lido.texto.empty() ? "" : "\n") + limpo[0][0];
         return lido;
     }
 
@@ -159,11 +160,9 @@ constexpr Pagina paginas[] = {
 };
 
 // Todos os números que uma frase fixa traz no texto.
-std::set<int> numeros(const std::string& texto, const std::string& frase) {
-    const std::regex padrao(frase);
+std::set<int> numeros(const std::string& texto, const char* frase) {
     std::set<int> achados;
-    for (std::sregex_iterator i(texto.begin(), texto.end(), padrao), fim; i != fim; ++i)
-        achados.insert(std::stoi((*i)[1]));
+    for (const auto& vez : casa(texto, frase)) achados.insert(std::stoi(vez[1]));
     return achados;
 }
 
@@ -178,16 +177,16 @@ std::string tratos_da_pagina(const std::string& texto, const std::string& titulo
                                                                {"desbaste", "DES"},
                                                                {"colheita parcial", "COP"},
                                                                {"colheita final", "COF"}};
-    static const std::regex padrao("^Semanas? (\\d+)(?: (?:a|e) (\\d+))?: ([^.]+)\\.");
     std::istringstream paragrafos(texto.substr(std::min(texto.find("\n" + titulo + "\n"), texto.size())));
     std::string paragrafo, achados;
     std::getline(paragrafos, paragrafo);
     std::getline(paragrafos, paragrafo);
     while (std::getline(paragrafos, paragrafo) && !paragrafo.ends_with('?')) {
-        std::smatch m;
-        if (!std::regex_search(paragrafo, m, padrao)) continue;
-        const int de = std::stoi(m[1]), ate = m[2].matched ? std::stoi(m[2]) : de;
-        const auto codigo = codigos.find(m[3]);
+        const auto vezes = casa(paragrafo, "^Semanas? ([0-9]+)( (a|e) ([0-9]+))?: ([^.]+)\\.");
+        if (vezes.empty()) continue;
+        const auto& m = vezes.front();
+        const int de = std::stoi(m[1]), ate = m[4].empty() ? de : std::stoi(m[4]);
+        const auto codigo = codigos.find(m[5]);
         for (int s = de; s <= ate; ++s)
             achados += std::to_string(s) + ":" + (codigo == codigos.end() ? "?" : codigo->second) + " ";
     }
@@ -208,12 +207,12 @@ TEST_F(Documentos, OsNumerosDasCulturasSaoOsDoCatalogo) {
         com_pagina.insert(p.cultura);
         ASSERT_TRUE(lidos[p.documento].contains(p.topico));
         const auto& [texto, ligacoes] = lidos[p.documento][p.topico];
-        EXPECT_EQ(numeros(texto, "Cabem? (\\d+) plantas? por canteiro"),
+        EXPECT_EQ(numeros(texto, "Cabem? ([0-9]+) plantas? por canteiro"),
                   std::set{std::stoi(densidade_cult[p.cultura])});
-        EXPECT_EQ(numeros(texto, "(\\d+) semanas no canteiro"), std::set<int>{ciclo_horta[p.cultura]});
-        EXPECT_EQ(numeros(texto, "a cada (\\d+) semanas?"), std::set<int>{intervalo_plantio[p.cultura]});
+        EXPECT_EQ(numeros(texto, "([0-9]+) semanas no canteiro"), std::set<int>{ciclo_horta[p.cultura]});
+        EXPECT_EQ(numeros(texto, "a cada ([0-9]+) semanas?"), std::set<int>{intervalo_plantio[p.cultura]});
         const bool de_muda = ciclo_sem[p.cultura] > 0;
-        EXPECT_EQ(numeros(texto, "(\\d+) semanas na sementeira"),
+        EXPECT_EQ(numeros(texto, "([0-9]+) semanas na sementeira"),
                   de_muda ? std::set<int>{ciclo_sem[p.cultura]} : std::set<int>{});
         EXPECT_EQ(tratos_da_pagina(texto, de_muda ? "O que se faz no canteiro?" : "O que se faz em cada semana?"),
                   tratos_do_catalogo(oper_horta, p.cultura));

@@ -5,7 +5,6 @@
 #include "platform/tela/modelo_rpt.h"
 #include "roteiro.h"
 
-#include <regex>
 #include <sys/wait.h>
 
 namespace verdalia {
@@ -62,9 +61,8 @@ struct Impressora : PartidaNaTela {
     const fs::path programas = pasta.raiz / "programas";
 };
 
-auto quantas(const std::string& texto, const char* padrao) {
-    const std::regex expressao(padrao);
-    return std::distance(std::sregex_iterator(texto.begin(), texto.end(), expressao), std::sregex_iterator());
+int quantas(const std::string& texto, const char* padrao) {
+    return static_cast<int>(casa(texto, padrao).size());
 }
 
 // ---- As folhas
