@@ -140,7 +140,7 @@ void age::monta(Lista lista, int inicio) {
     ListaNaTela& l = *na_tela[lista];
     l.barra.visivel = l.barra.ativo = l.barra.maximo > 0;
     for (int i = 0; i < linhas_a_vista; ++i) {
-        const auto n = static_cast<std::size_t>(inicio + i);
+        const std::size_t n = static_cast<std::size_t>(inicio) + static_cast<std::size_t>(i);
         const LinhaDeTrabalho linha = n < listas[lista].size() ? listas[lista][n] : LinhaDeTrabalho{};
         l.cultura(i).texto = linha.cultura;
         // Na semeadura há uma coluna só de lugares, que é a da sementeira.

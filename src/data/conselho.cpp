@@ -73,7 +73,7 @@ std::string agora_e_depois(std::string (*oper)(std::int16_t, std::int16_t), std:
         texto = " · agora: " + agora + (feito ? " (feito)" : "");
     for (int depois = idade + 1; depois < semanas; ++depois)
         if (const std::string proximo = fazer(oper(c, static_cast<std::int16_t>(depois))); !proximo.empty())
-            return texto + "\ndepois: " + proximo + ", " + daqui_a(depois - idade);
+            return texto.append("\ndepois: ").append(proximo).append(", ").append(daqui_a(depois - idade));
     return texto;
 }
 

@@ -83,7 +83,8 @@ void INTRONEW::cria_guia() {
     for (int i = 0; i <= ultima_pagina; ++i) {
         // Três quadros por fileira, e o último embaixo, ao lado do hortelão.
         const bool ultimo = i == ultima_pagina;
-        const double esquerda = 266 + 166 * (i % 3), topo = 62 + 97 * (i / 3);
+        const int coluna = i % 3, fileira = i / 3;
+        const double esquerda = 266 + 166 * coluna, topo = 62 + 97 * fileira;
         Figura& figura = quadro.cria(i);
         figura.fica_em(ultimo ? Retangulo{266, 452, 492, 56} : Retangulo{esquerda, topo, 160, 92});
         figura.so_do_mouse = true;

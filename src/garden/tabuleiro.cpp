@@ -13,7 +13,8 @@ using namespace horta_tabelas;
 
 void trabalhando_na_horta::cria_canteiro(int i) {
     // Ficam escondidos até que uma passada os pinte.
-    const double x = i % lado_da_horta * passo_da_horta, y = i / lado_da_horta * passo_da_horta;
+    const int coluna = i % lado_da_horta, fileira = i / lado_da_horta;
+    const double x = coluna * passo_da_horta, y = fileira * passo_da_horta;
     const auto poe = [this, i](Controle& c, const Retangulo& onde) {
         c.pai = &horta;
         c.fica_em(onde);

@@ -104,9 +104,9 @@ feira_horta::feira_horta() : Tela("feira_horta") {
 void feira_horta::cria_controles() {
     for (int i = 0; i < n_verduras; ++i) {
         Caixote& caixote = plc.cria(i);
-        caixote.fica_em({primeiro_caixote.x + passo_x * (i % por_prateleira),
-                         primeiro_caixote.y + passo_y * (i / por_prateleira), primeiro_caixote.largura,
-                         primeiro_caixote.altura});
+        const int coluna = i % por_prateleira, prateleira = i / por_prateleira;
+        caixote.fica_em({primeiro_caixote.x + passo_x * coluna, primeiro_caixote.y + passo_y * prateleira,
+                         primeiro_caixote.largura, primeiro_caixote.altura});
         caixote.figura = carrega_figura(verduras[i].figura);
         caixote.texto = nome_cult[verduras[i].cultura];
         caixote.letra = {.familia = Familia::legenda, .corpo = 10, .negrito = true};

@@ -144,8 +144,9 @@ std::vector<Ponto> alvos_do_arraste() {
         }
         const Retangulo r = c->lugar();
         for (int i = 0; i < c->grade.linhas * c->grade.colunas; ++i) {
-            const Ponto casa{tela.origem_x() + r.x + (i % c->grade.colunas + 0.5) * c->grade.passo_x,
-                             tela.origem_y() + r.y + (i / c->grade.colunas + 0.5) * c->grade.passo_y};
+            const int coluna = i % c->grade.colunas, linha = i / c->grade.colunas;
+            const Ponto casa{tela.origem_x() + r.x + (coluna + 0.5) * c->grade.passo_x,
+                             tela.origem_y() + r.y + (linha + 0.5) * c->grade.passo_y};
             if (controle_em(casa.x, casa.y) == c) alvos.push_back(casa);
         }
     }
