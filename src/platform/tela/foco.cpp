@@ -108,6 +108,7 @@ void leva_foco(const Tecla& t) {
     const std::vector<Controle*> candidatos = em_ordem_de_leitura(tela);
     if (candidatos.empty()) return;
     std::vector<Ponto> pontos;
+    pontos.reserve(candidatos.size());
     for (const Controle* c : candidatos) pontos.push_back(meio(*c));
     const auto lugar = std::find(candidatos.begin(), candidatos.end(), tela.foco);
     const int agora = lugar == candidatos.end() ? -1 : static_cast<int>(lugar - candidatos.begin());

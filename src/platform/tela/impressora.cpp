@@ -8,9 +8,8 @@
 #include <optional>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <unistd.h>
 #include <vector>
-
-extern char** environ;
 
 namespace verdalia {
 
