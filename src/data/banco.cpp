@@ -2,7 +2,7 @@
 
 #include "data/banco_interno.h"
 #include "data/estado.h"
-#include "flow/regras/calendario.h"
+#include "data/plano.h"
 
 #include <algorithm>
 #include <bitset>

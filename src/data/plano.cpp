@@ -108,6 +108,11 @@ int pend_leira() {
     return pendencia(leiras(sem_cod_cult), leiras(sem_idade), leiras(sem_check), oper_leira, {"", "PLS"});
 }
 
+// Compara as datas, não as semanas do ano: uma previsão de um ano inteiro volta ao mesmo número.
+bool previsao_ligada() {
+    return data_previsao != data_hoje;
+}
+
 bool auto_abastecimento() {
     return std::any_of(seq_pedido.begin() + 1, seq_pedido.end(), [](std::int16_t pedido) { return pedido != 0; });
 }

@@ -32,6 +32,9 @@ int leiras_a_semear(std::int16_t cod_cult);
 int pend_canteiro();
 int pend_leira();
 
+// O jogador está olhando uma previsão?
+bool previsao_ligada();
+
 // A família pediu alguma coisa?
 bool auto_abastecimento();
 

@@ -35,11 +35,6 @@ int semanas_ate(Dia desde, Dia ate) {
     return static_cast<int>((ate - domingo).count() / 7);
 }
 
-// Compara as datas, não as semanas do ano: uma previsão de um ano inteiro volta ao mesmo número.
-bool previsao_ligada() {
-    return data_previsao != data_hoje;
-}
-
 void avanca_previsao() {
     if (!previsao_ligada()) {
         bak_st_cod_cult = st_cod_cult;

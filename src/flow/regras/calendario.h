@@ -1,6 +1,7 @@
 // O passar das semanas e a previsão: as regras, sem tela.
 #pragma once
 
+#include "data/plano.h"
 #include "platform/base/relogio.h"
 
 namespace verdalia {
@@ -10,9 +11,6 @@ void passa_semana();
 
 // Quantos domingos há depois de `desde` até `ate`, inclusive; 0 quando `ate` não é mais tarde.
 int semanas_ate(Dia desde, Dia ate);
-
-// O jogador está olhando uma previsão?
-bool previsao_ligada();
 
 // Avança a previsão uma semana; a primeira guarda antes o estado verdadeiro.
 void avanca_previsao();
