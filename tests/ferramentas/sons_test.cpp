@@ -12,7 +12,7 @@
 #include <set>
 #include <sstream>
 
-#include "ferramentas/arquivo.h"
+#include "platform/base/arquivo.h"
 
 namespace fs = std::filesystem;
 
@@ -22,6 +22,7 @@ namespace {
 const fs::path projeto = VERDALIA_PROJETO, programa = VERDALIA_PROGRAMA;
 constexpr std::array sotaques = {"correto", "caipira", "ingles"};
 constexpr double taxa = 22050;
+constexpr std::size_t maximo = 1 << 24; // de um arquivo lido
 
 // Os nomes das verduras, que se ouvem a cada arraste, são mais curtos que as frases.
 const std::set<std::string> nomes = {"alface",   "chicoria", "cheiro",   "agriao", "couve",    "espinafr", "quiabo",
@@ -32,7 +33,7 @@ using Amostras = std::vector<double>; // de -1 a 1
 
 // O WAV como o programa o espera; qualquer outro formato é um defeito.
 Amostras le_wav(const fs::path& arquivo) {
-    const std::string b = le_arquivo(arquivo);
+    const std::string b = le_arquivo(arquivo, maximo);
     const auto numero = [&b](std::size_t lugar, int bytes) {
         std::uint32_t n = 0;
         for (int i = bytes; i-- > 0;) n = n << 8 | static_cast<unsigned char>(b.at(lugar + std::size_t(i)));
@@ -135,7 +136,7 @@ double altura(const Amostras& som) {
 // As linhas de uma tabela de sons: o nome e o resto, campo a campo.
 std::map<std::string, std::vector<std::string>> le_tabela(const fs::path& tabela) {
     std::map<std::string, std::vector<std::string>> linhas;
-    std::istringstream texto(le_arquivo(tabela));
+    std::istringstream texto(le_arquivo(tabela, maximo));
     for (std::string linha; std::getline(texto, linha);) {
         if (linha.empty() || linha[0] == '#') continue;
         std::istringstream resto(linha);
@@ -161,7 +162,7 @@ TEST(Sons, OQueOProgramaTocaExisteEmTodosOsSotaques) {
     const std::regex nome_de_som("\"(?:\\\\\\\\)?([\\w-]+\\.wav)\"");
     for (const auto& fonte : fs::recursive_directory_iterator(projeto / "src")) {
         if (!fonte.is_regular_file()) continue;
-        const std::string texto = le_arquivo(fonte.path());
+        const std::string texto = le_arquivo(fonte.path(), maximo);
         for (std::sregex_iterator i(texto.begin(), texto.end(), nome_de_som), fim; i != fim; ++i)
             pedidos.insert((*i)[1]);
     }
@@ -250,7 +251,7 @@ TEST(Sons, FeitosDeNovoSaoOsMesmosBytes) {
         const std::string destino = pasta / nome;
         const std::string comando = (projeto / "ferramentas/som").string() + " " + tipo + " " + destino + " " + resto;
         EXPECT_EQ(std::system(comando.c_str()), 0) << comando;
-        EXPECT_TRUE(le_arquivo(destino) == le_arquivo(programa / nome)) << nome;
+        EXPECT_TRUE(le_arquivo(destino, maximo) == le_arquivo(programa / nome, maximo)) << nome;
     };
     for (const std::string sotaque : {"caipira", "ingles"}) {
         const auto f = le_tabela(projeto / "audio/falas" / (sotaque + ".tsv"))["alf-vz"];
