@@ -10,18 +10,28 @@ namespace verdalia {
 
 namespace {
 
-Superficie le(const std::string& caminho) {
+// A figura em 32 bits; nula quando não há arquivo que se leia.
+Superficie le_se_ha(const std::string& caminho) {
     const auto arquivo = acha(caminho);
-    Superficie lida(arquivo ? IMG_Load(arquivo->c_str()) : nullptr);
-    if (!lida) {
-        static std::set<std::string> ja_ditas; // uma linha por figura, mesmo que ela se peça a cada tique
-        if (ja_ditas.insert(caminho).second)
-            std::fprintf(stderr, "verdalia: figura que não pôde ser lida: %s\n", caminho.c_str());
-        return nullptr;
-    }
+    const Superficie lida(arquivo ? IMG_Load(arquivo->c_str()) : nullptr);
+    if (!lida) return nullptr;
     const bool tem_alfa = SDL_ISPIXELFORMAT_ALPHA(lida->format->format);
     return Superficie(
         SDL_ConvertSurfaceFormat(lida.get(), tem_alfa ? SDL_PIXELFORMAT_ARGB8888 : SDL_PIXELFORMAT_XRGB8888, 0));
+}
+
+Superficie le(const std::string& caminho) {
+    Superficie lida = le_se_ha(caminho);
+    static std::set<std::string> ja_ditas; // uma linha por figura, mesmo que ela se peça a cada tique
+    if (!lida && ja_ditas.insert(caminho).second)
+        std::fprintf(stderr, "verdalia: figura que não pôde ser lida: %s\n", caminho.c_str());
+    return lida;
+}
+
+// A mesma figura desenhada com o quádruplo dos pixels lógicos, que só as de letras e de traço miúdo têm.
+Superficie le_fina(std::string caminho) {
+    const std::size_t barra = caminho.rfind('\\');
+    return le_se_ha(caminho.insert(barra == std::string::npos ? 0 : barra + 1, "4x\\"));
 }
 
 // Desfaz a pré-multiplicação, que só serve enquanto a figura é estirada.
@@ -58,6 +68,8 @@ Superficie estira(SDL_Surface& de, int largura, int altura) {
 SDL_Surface* Imagem::no_tamanho(int largura_px, int altura_px) {
     if (falta || largura_px <= 0 || altura_px <= 0) return nullptr;
     if (estirada && estirada->w == largura_px && estirada->h == altura_px) return estirada.get();
+    if (largura_px > largura)
+        if (Superficie fina = le_fina(caminho)) original = std::move(fina);
     if (!original) original = le(caminho);
     if (original) {
         estirada = estira(*original, largura_px, altura_px);

@@ -23,7 +23,8 @@ struct Imagem {
     Superficie original; // vazia depois de estirada
     Superficie estirada;
 
-    // A figura no tamanho pedido, em pixels da janela; nula quando `falta` ou quando não há o que mostrar.
+    // A figura no tamanho pedido, em pixels da janela; nula quando `falta` ou quando não há o que mostrar. Acima do
+    // tamanho do arquivo, vem da pasta 4x ao lado dele, quando está lá.
     SDL_Surface* no_tamanho(int largura_px, int altura_px);
 };
 

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cmath>
+#include <cstring>
 
 namespace verdalia {
 namespace {
@@ -73,6 +74,20 @@ TEST(Figuras, CadaUmaEAQueSeDesenhou) {
         EXPECT_LT(diferenca(agora, antes), 2) << figuras[std::size_t(i)];
     }
     if (refaz) IMG_SavePNG(guardada.get(), prancha.c_str());
+}
+
+TEST(Figuras, NasJanelasGrandesVaoAsDeTracoFino) {
+    define_pastas("", VERDALIA_PROGRAMA);
+    const Superficie fina = le_figura(fs::path(VERDALIA_PROGRAMA) / "anima/4x/az_alf.bmp");
+    ASSERT_TRUE(fina);
+    const auto pontos = [](SDL_Surface& s) { return reduz<39 * 40 * 3>(s, 39, 40); };
+    for (const int largura : {78, 156}) { // o dobro vem do arquivo de sempre; mais que isso, do outro
+        const Superficie vista(
+            SDL_ConvertSurfaceFormat(carrega_figura("C:\\anima\\az_alf.bmp")->no_tamanho(largura, largura * 40 / 39),
+                                     SDL_PIXELFORMAT_RGBA32, 0));
+        EXPECT_EQ(std::memcmp(vista->pixels, fina->pixels, 156 * 4) == 0 && vista->w == 156, largura == 156);
+        EXPECT_LT(diferenca(pontos(*vista), pontos(*fina)), 10);
+    }
 }
 
 // Como veem o protanope e o deuteranope (Viénot, Brettel e Mollon, 1999), em luz linear.
