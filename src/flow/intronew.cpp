@@ -180,6 +180,7 @@ void INTRONEW::nova_semana() {
     for (int i = 0; i < semanas; ++i) passa_semana();
     data_por_gravar = !tenta_no_banco("Nova Semana", "A horta está em dia nesta partida, mas ainda não foi gravada.",
                                       [dia_de_hoje] { grava_semana(dia_de_hoje); });
+    if (!data_por_gravar) guarda_copia();
 }
 
 void INTRONEW::Form_Activate() {
