@@ -123,7 +123,7 @@ TEST_F(Copias, BancosGeradosAoAcasoCarregamEGuardamAsInvariantes) {
     constexpr const char* datas[] = {
         "'2026-03-04'", "'1900-01-01'", "'9999-12-31'", "'2024-02-29'", "'2026-02-29'", "NULL", "7"};
     const std::string modelo = conteudo(arquivo);
-    const int quantos = vezes(1000, 10000);
+    const int quantos = vezes(300, 10000);
     int de_lado = 0, plantadas = 0;
     for (int i = 0; i < quantos; ++i) {
         SCOPED_TRACE(i);
