@@ -169,7 +169,7 @@ void INTRONEW::primeira_carga_da_partida() {
 
 void INTRONEW::nova_semana() {
     const Dia guardada = le_data_semana();
-    const Dia dia_de_hoje = hoje();
+    const Dia dia_de_hoje = std::chrono::floor<std::chrono::days>(data_hoje); // ainda que já passe da meia-noite
     if (guardada > dia_de_hoje + std::chrono::days{7})
         avisa("Nova Semana", "O relógio do computador diz que hoje é " + texto_do_dia(dia_de_hoje) +
                                  ", mas a horta já foi cuidada até " + texto_do_dia(guardada) +

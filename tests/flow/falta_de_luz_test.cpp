@@ -121,5 +121,46 @@ TEST_F(FaltaDeLuz, FicaSempreUmEstadoInteiroENenhumaSemanaPassaDuasVezes) {
                    std::to_string(vistos[0]) + " " + std::to_string(vistos[1]) + " " + std::to_string(vistos[2]));
 }
 
+TEST_F(FaltaDeLuz, DiscoQueFalhaEDitoOJogoSegueEDepoisSeSalva) {
+    grava_semana(hoje());
+    const std::string antes = no_disco();
+    DiscoDeTeste disco;
+    disco.toda_chamada = true;
+    const struct {
+        int codigo;
+        const char* dito;
+    } falhas[] = {{13, "O disco está cheio"}, {10, "o disco falhou"}, {0, "só pode ser lido"}};
+    roteiro.clica("Command1").esta_em("INTRONEW").confere(trabalha);
+    const auto sai_e_salva = [this]() -> Roteiro& {
+        return roteiro.clica("saida").espera_ms(1050).teclas({SDLK_s, SDLK_s});
+    };
+    for (const auto& f : falhas) {
+        roteiro.confere([&] {
+            disco.codigo_falha = f.codigo;
+            disco.so_leitura = f.codigo == 0;
+            disco.falha_em = f.codigo == 0 ? -1 : disco.chamadas;
+        });
+        sai_e_salva().esta_em("ok").confere([&] {
+            disco.falha_em = -1;
+            disco.so_leitura = false;
+            EXPECT_TRUE(msg_texto.find(f.dito) != msg_texto.npos && msg_texto.ends_with("tentar de novo."))
+                << msg_texto;
+        });
+        roteiro.clica("opções").clica("pic_horta").espera_ms(1500).esta_em("trabalhando_na_horta").confere([&] {
+            const auto pedido = seq_pedido;
+            const auto feito = st_check;
+            EXPECT_EQ(no_disco(), antes);
+            trabalha();
+            EXPECT_TRUE(pedido == seq_pedido && feito == st_check);
+        });
+        roteiro.clica("hortelino").espera_ms(1700).esta_em("INTRONEW");
+    }
+    sai_e_salva().quadro("Pendências").acabou();
+    joga();
+    trabalha();
+    const std::string salva = tudo(hoje());
+    EXPECT_EQ(no_disco(), salva);
+}
+
 } // namespace
 } // namespace verdalia
