@@ -245,13 +245,5 @@ TEST_F(Descuido, AFaixaDizAPrevisaoEODialogoDeFiguraFechaComUmClique) {
     laco();
 }
 
-TEST_F(Descuido, LetrasEstragadasSeDescobremNoComeco) {
-    escreve(jogador / "fontes" / "LiberationSans-Bold.ttf", "não é uma letra");
-    fecha_fontes();
-    EXPECT_THROW(abre_fontes(), std::runtime_error);
-    std::filesystem::remove_all(jogador / "fontes");
-    abre_fontes();
-}
-
 } // namespace
 } // namespace verdalia
