@@ -14,6 +14,7 @@
 #include <sqlite3.h>
 #include <sstream>
 #include <string>
+#include <unistd.h>
 
 namespace verdalia {
 
@@ -38,9 +39,17 @@ private:
     Relogio* anterior;
 };
 
+// Quantas vezes repetir: poucas em ./testar, muitas numa corrida à parte, com VERDALIA_LONGO no ambiente.
+inline int vezes(int poucas, int muitas) {
+    return std::getenv("VERDALIA_LONGO") != nullptr ? muitas : poucas;
+}
+
 struct PastaTemporaria {
     PastaTemporaria() {
-        std::string modelo = (std::filesystem::temp_directory_path() / "verdalia-XXXXXX").string();
+        // Na memória, onde há: descarregar no disco de verdade não muda o que se testa.
+        const std::filesystem::path memoria = "/dev/shm";
+        const bool cabe = access(memoria.c_str(), W_OK) == 0;
+        std::string modelo = (cabe ? memoria : std::filesystem::temp_directory_path()) / "verdalia-XXXXXX";
         if (mkdtemp(modelo.data()) == nullptr) throw std::runtime_error("mkdtemp");
         raiz = modelo;
     }

@@ -14,9 +14,15 @@ namespace verdalia {
 inline std::vector<std::string> avisos_do_banco;
 
 // Deixa `nome_banco` pronto para usar, antes de qualquer leitura. O que falta é criado; um arquivo danificado, de outro
-// formato ou de versão mais nova é posto de lado com a data no nome, com um aviso. Lança ErroBanco, sem mexer em
-// nada, quando o arquivo não pode ser lido ou gravado por outra razão.
-void prepara_banco();
+// formato ou de versão mais nova é posto de lado com a data no nome, com um aviso. A cópia mais nova que serve toma o
+// lugar dele se `aceita_copia`, que recebe a pergunta por extenso, o diz; senão as cópias são postas de lado também, e
+// a horta começa vazia. Lança ErroBanco, sem mexer em nada, quando o arquivo não pode ser lido ou gravado por outra
+// razão.
+void prepara_banco(const std::function<bool(const std::string& pergunta)>& aceita_copia = {});
+
+// Guarda ao lado do banco uma cópia dele como está gravado, no lugar da que já houver desta semana; ficam as das
+// últimas oito semanas jogadas. O que a impede não é dito: continua a cópia que havia.
+void guarda_copia();
 
 // Leem o banco para as tabelas do estado; pedem `carrega_tabelas` antes. Um registro com valor fora do lugar não entra
 // e deixa um aviso. Verdadeiro quando há alguma cultura (le_canteiros lê também as leiras).

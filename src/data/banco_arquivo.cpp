@@ -43,14 +43,6 @@ void muda_nome(const fs::path& de, const fs::path& para) {
     if (erro) falha_do_disco(de, erro);
 }
 
-// Dá ao banco o nome de lado, e o devolve.
-std::string poe_de_lado(const fs::path& arquivo) {
-    const fs::path destino = nome_de_lado(arquivo);
-    for (const char* sufixo : companheiros)
-        if (existe(com(arquivo, sufixo))) muda_nome(com(arquivo, sufixo), com(destino, sufixo));
-    return destino.filename().string();
-}
-
 void cria_tabelas(const ArquivoDeBanco& descrito, Database& banco) {
     for (const Tabela& tabela : descrito.tabelas) {
         std::string campos;
@@ -61,25 +53,24 @@ void cria_tabelas(const ArquivoDeBanco& descrito, Database& banco) {
     if (descrito.enche) descrito.enche(banco);
 }
 
-// Cria o banco e devolve o nome que o antigo passou a ter ("" quando não havia). O novo nasce sob outro nome e só
-// toma o seu quando está inteiro: um disco cheio ou uma falta de luz não desfaz nada do que havia.
-std::string cria_banco(const ArquivoDeBanco& descrito, const fs::path& arquivo) {
-    const std::string caminho_novo = descrito.caminho + ".novo";
-    const fs::path novo = arquivo_do_banco(caminho_novo);
-    std::error_code erro;
-    for (const char* sufixo : companheiros) fs::remove(com(novo, sufixo), erro);
-    {
-        Database banco = area_do_banco().CreateDatabase(caminho_novo);
-        Passo passo(area_do_banco());
-        banco.executa("PRAGMA application_id = " + std::to_string(formato));
-        banco.executa("PRAGMA user_version = " + std::to_string(versao));
-        cria_tabelas(descrito, banco);
-        passo.confirma();
-    }
-    // Também um diário órfão, de um banco que alguém apagou, sai do lugar: seria tomado pelo do banco novo.
-    std::string antigo = existe_algum(arquivo) ? poe_de_lado(arquivo) : "";
-    muda_nome(novo, arquivo);
-    for (const char* sufixo : companheiros) fs::remove(com(novo, sufixo), erro);
+void enche_do_nada(const ArquivoDeBanco& descrito, Database& banco) {
+    Passo passo(area_do_banco());
+    banco.executa("PRAGMA application_id = " + std::to_string(formato));
+    banco.executa("PRAGMA user_version = " + std::to_string(versao));
+    cria_tabelas(descrito, banco);
+    passo.confirma();
+}
+
+// Cria o banco, do nada ou de uma cópia, e devolve o nome que o antigo passou a ter ("" quando não havia).
+std::string cria_banco(const ArquivoDeBanco& descrito, const fs::path& arquivo, const std::string& copia) {
+    std::string antigo;
+    faz_por_inteiro(
+        descrito.caminho,
+        [&](Database& banco) {
+            copia.empty() ? enche_do_nada(descrito, banco) : area_do_banco().OpenDatabase(copia).copia_para(banco);
+        },
+        // Também um diário órfão, de um banco que alguém apagou, sai do lugar: seria tomado pelo do banco novo.
+        [&] { antigo = existe_algum(arquivo) ? poe_de_lado(arquivo) : ""; });
     return antigo;
 }
 
@@ -95,10 +86,13 @@ bool tem_as_tabelas(const ArquivoDeBanco& descrito, Database& banco) {
 
 constexpr const char* danificado = "está danificado";
 
-// Por que o arquivo não serve; "" quando serve.
-std::string defeito(const ArquivoDeBanco& descrito) {
+} // namespace
+
+std::string defeito(const ArquivoDeBanco& descrito, const std::string& caminho) {
+    std::error_code erro;
+    if (fs::is_directory(arquivo_do_banco(caminho), erro)) return "é uma pasta, e não um arquivo";
     try {
-        Database banco = area_do_banco().OpenDatabase(descrito.caminho);
+        Database banco = area_do_banco().OpenDatabase(caminho);
         const std::int64_t marca = banco.numero("PRAGMA application_id");
         if (banco.numero("PRAGMA page_count") == 0) return danificado;
         if (marca != formato) return "não é deste jogo";
@@ -113,7 +107,33 @@ std::string defeito(const ArquivoDeBanco& descrito) {
     }
 }
 
-} // namespace
+void faz_por_inteiro(const std::string& caminho, const std::function<void(Database&)>& enche,
+                     const std::function<void()>& antes_da_troca) {
+    const fs::path arquivo = arquivo_do_banco(caminho), novo = arquivo_do_banco(caminho + ".novo");
+    const auto limpa = [&novo] {
+        std::error_code erro;
+        for (const char* sufixo : companheiros) fs::remove(com(novo, sufixo), erro);
+    };
+    limpa();
+    try {
+        Database banco = area_do_banco().CreateDatabase(caminho + ".novo");
+        enche(banco);
+        banco.Close();
+        if (antes_da_troca) antes_da_troca();
+        muda_nome(novo, arquivo);
+    } catch (...) {
+        limpa(); // o espaço que ele tomava faz falta
+        throw;
+    }
+    limpa();
+}
+
+std::string poe_de_lado(const fs::path& arquivo) {
+    const fs::path destino = nome_de_lado(arquivo);
+    for (const char* sufixo : companheiros)
+        if (existe(com(arquivo, sufixo))) muda_nome(com(arquivo, sufixo), com(destino, sufixo));
+    return destino.filename().string();
+}
 
 fs::path nome_de_lado(const fs::path& arquivo) {
     const std::string raiz = arquivo.stem().string() + " " + texto_iso(hoje());
@@ -126,15 +146,16 @@ fs::path nome_de_lado(const fs::path& arquivo) {
 
 std::string prepara_arquivo(const ArquivoDeBanco& banco) {
     const fs::path arquivo = arquivo_do_banco(banco.caminho);
-    if (!existe(arquivo)) {
-        cria_banco(banco, arquivo);
-        return "";
-    }
-    const std::string motivo = defeito(banco);
+    const bool falta = !existe(arquivo);
+    const std::string motivo = falta ? "não foi encontrado" : defeito(banco, banco.caminho);
     if (motivo.empty()) return "";
-    const std::string guardado = cria_banco(banco, arquivo);
-    return std::string("O arquivo ") + banco.de_que + ", \"" + arquivo.filename().string() + "\", " + motivo +
-           ". Ele foi guardado como \"" + guardado + "\" e " + banco.recomeco + ".";
+    const std::string frase =
+        std::string("O arquivo ") + banco.de_que + ", \"" + arquivo.filename().string() + "\", " + motivo + ".";
+    const std::string copia = banco.escolhe_copia ? banco.escolhe_copia(frase) : "";
+    const std::string guardado = cria_banco(banco, arquivo, copia);
+    if (falta) return "";
+    return frase + " Ele foi guardado como \"" + guardado + "\" e " +
+           (copia.empty() ? banco.recomeco : "a cópia tomou o lugar dele") + ".";
 }
 
 } // namespace verdalia

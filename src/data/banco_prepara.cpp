@@ -58,10 +58,10 @@ void completa_semana() {
 
 } // namespace
 
-void prepara_banco() {
+void prepara_banco(const std::function<bool(const std::string&)>& aceita_copia) {
     copia_por_fazer.clear();
-    const ArquivoDeBanco horta{nome_banco, "da horta", "uma horta nova começa agora", tabelas_do_banco(),
-                               enche_banco_novo};
+    ArquivoDeBanco horta{nome_banco, "da horta", "uma horta nova começa agora", tabelas_do_banco(), enche_banco_novo};
+    horta.escolhe_copia = [&](const std::string& por_que) { return escolhe_copia(horta, por_que, aceita_copia); };
     const std::string aviso = prepara_arquivo(horta);
     if (!aviso.empty()) avisos_do_banco.push_back(aviso);
     completa_semana();

@@ -7,6 +7,18 @@
 
 namespace verdalia {
 
+namespace {
+
+struct SemResposta {};
+
+bool aceita_copia(const std::string& frase) {
+    const bool aceita = pergunta("Atenção ...", frase);
+    if (!aceita && querem_sair()) throw SemResposta{};
+    return aceita;
+}
+
+} // namespace
+
 void fundo::Form_Load() {
     ponteiro = ponteiro_ampulheta;
     primeira_ativacao = true;
@@ -32,8 +44,13 @@ void fundo::Form_Activate() {
     som_ligado = false;
     musica_ligada = false;
     primeira_carga = true;
-    if (!tenta_no_banco("Atenção ...", "O jogo não pode começar sem esse arquivo.", prepara_banco))
-        return termina(true);
+    try {
+        if (!tenta_no_banco("Atenção ...", "O jogo não pode começar sem esse arquivo.",
+                            [] { prepara_banco(aceita_copia); }))
+            return termina(true);
+    } catch (const SemResposta&) { // a pergunta volta da próxima vez: até lá nada muda no disco
+        return termina();
+    }
     mostra_avisos_do_banco();
     mostra_modal(TelaId::Conf_cd);
 }

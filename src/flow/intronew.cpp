@@ -169,7 +169,7 @@ void INTRONEW::primeira_carga_da_partida() {
 
 void INTRONEW::nova_semana() {
     const Dia guardada = le_data_semana();
-    const Dia dia_de_hoje = hoje();
+    const Dia dia_de_hoje = std::chrono::floor<std::chrono::days>(data_hoje); // ainda que já passe da meia-noite
     if (guardada > dia_de_hoje + std::chrono::days{7})
         avisa("Nova Semana", "O relógio do computador diz que hoje é " + texto_do_dia(dia_de_hoje) +
                                  ", mas a horta já foi cuidada até " + texto_do_dia(guardada) +
@@ -180,6 +180,7 @@ void INTRONEW::nova_semana() {
     for (int i = 0; i < semanas; ++i) passa_semana();
     data_por_gravar = !tenta_no_banco("Nova Semana", "A horta está em dia nesta partida, mas ainda não foi gravada.",
                                       [dia_de_hoje] { grava_semana(dia_de_hoje); });
+    if (!data_por_gravar) guarda_copia();
 }
 
 void INTRONEW::Form_Activate() {

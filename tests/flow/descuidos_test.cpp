@@ -1,8 +1,6 @@
 // O que acontece quando o jogador, ou o disco, faz o que não se esperava.
 #include "roteiro.h"
 
-#include <optional>
-
 namespace verdalia {
 namespace {
 
@@ -18,19 +16,6 @@ struct Descuido : PartidaNaTela {
         return roteiro.teclas({SDLK_RIGHT, SDLK_RETURN});
     }
 };
-
-TEST_F(Descuido, SemanaQueNaoSePodeGravarNaoEnvelheceDuasVezes) {
-    planta(5, cult_couve, 0);
-    grava_semana(hoje() - std::chrono::days{7});
-    std::optional<BancoPreso> preso;
-    roteiro.clica("Command1").esta_em("ok_help").confere([&] { preso.emplace(arquivo); }).tecla(SDLK_ESCAPE);
-    roteiro.esta_em("ok").confere([&] { preso.reset(); }).clica("opções").esta_em("INTRONEW");
-    roteiro.clica("saida").espera_ms(1050).teclas({SDLK_s, SDLK_s}).acabou();
-    joga();
-    EXPECT_EQ(le_data_semana(), hoje());
-    le_canteiros();
-    EXPECT_EQ(st_idade[5], 1);
-}
 
 TEST_F(Descuido, EnterRespondeSimAindaQueAPerguntaAnteriorTenhaSidoNao) {
     abre<INTRONEW>(TelaId::INTRONEW);
@@ -218,22 +203,6 @@ TEST_F(Descuido, OndeSePerdeAlgoEnterNaoConfirma) {
     EXPECT_EQ(st_cod_cult[11], cult_nenhuma);
 }
 
-TEST_F(Descuido, DataGuardadaMuitoAdianteEDitaNoComeco) {
-    planta(5, cult_couve, 3);
-    for (const int dias : {7, 8}) {
-        recomeca_laco();
-        grava_semana(hoje() + std::chrono::days{dias});
-        roteiro.clica("Command1");
-        if (dias == 8)
-            roteiro.esta_em("ok")
-                .confere([] { EXPECT_EQ(casa(msg_texto, "hoje é 4/3/2026.*até 12/3/2026").size(), 1U) << msg_texto; })
-                .clica("opções");
-        roteiro.esta_em("INTRONEW");
-        joga();
-        EXPECT_EQ(st_idade[5], 3);
-    }
-}
-
 TEST_F(Descuido, AFaixaDizAPrevisaoEODialogoDeFiguraFechaComUmClique) {
     auto& h = abre_horta();
     roteiro.confere([&] { EXPECT_FALSE(h.faixa.visivel); }).clica("previsao").confere([&] {
@@ -243,14 +212,6 @@ TEST_F(Descuido, AFaixaDizAPrevisaoEODialogoDeFiguraFechaComUmClique) {
     roteiro.clica("tempo_real").confere([&] { EXPECT_FALSE(h.faixa.visivel); });
     roteiro.clica("lbl_tempo").clica_em(40, 40).esta_em("ok_help").clica_em(396, 300).esta_em("trabalhando_na_horta");
     laco();
-}
-
-TEST_F(Descuido, LetrasEstragadasSeDescobremNoComeco) {
-    escreve(jogador / "fontes" / "LiberationSans-Bold.ttf", "não é uma letra");
-    fecha_fontes();
-    EXPECT_THROW(abre_fontes(), std::runtime_error);
-    std::filesystem::remove_all(jogador / "fontes");
-    abre_fontes();
 }
 
 } // namespace

@@ -76,26 +76,6 @@ TEST_F(Centro, SegundaPartidaDoDiaESemanaVaziaNaoMostramQuadro) {
     }
 }
 
-TEST_F(Centro, PortaComBancoPresoNaoPerdeNadaEDepoisGravaEAvisaPendencias) {
-    guarda_horta(hoje());
-    std::optional<BancoPreso> preso;
-    entra().confere([&] {
-        preso.emplace(arquivo);
-        st_check[37] = -1;
-        seq_pedido[cult_cenoura] = 2;
-    });
-    vai_a_porta().pergunta("Saindo ...|Deseja sair", true).pergunta("Gravar alterações|Deseja salvar ?", true);
-    roteiro.esta_em("ok").confere([&] { preso.reset(); }).clica("opções").esta_em("INTRONEW");
-    vai_a_porta().clica("opções", 0).clica("opções", 0).quadro("Pendências").acabou();
-    joga();
-    esvazia();
-    le_canteiros();
-    le_pedido();
-    EXPECT_EQ(st_check[37], -1);
-    EXPECT_EQ(seq_pedido[cult_cenoura], 2);
-    EXPECT_TRUE(roteiro.tocados.empty()); // a voz começa desligada
-}
-
 TEST_F(Centro, PortaSemGravacaoESemTrabalhoAcabaEmSilencio) {
     guarda_horta(hoje());
     entra().confere([] { esvazia(); });
@@ -108,12 +88,105 @@ TEST_F(Centro, PortaSemGravacaoESemTrabalhoAcabaEmSilencio) {
     EXPECT_EQ(st_cod_cult[37], cult_alface);
 }
 
-TEST_F(Centro, BancoEstragadoEPostoDeLadoComAviso) {
+TEST_F(Centro, BancoEstragadoDeixaEscolherACopiaDaHorta) {
+    guarda_horta(hoje());
+    guarda_copia();
     escreve(arquivo, "isto não é um banco");
-    roteiro.esta_em("ok").clica("opções");
-    entra().esta_em("INTRONEW");
+    const auto guardado = jogador / "hortas00 2026-03-04.mdb";
+    // Quem fecha a janela, ou desliga o computador, não respondeu: a pergunta volta.
+    roteiro.esta_em("form_ok_nao").fecha_janela();
     joga();
-    EXPECT_EQ(conteudo(jogador / "hortas00 2026-03-04.mdb"), "isto não é um banco");
+    recomeca_laco();
+    roteiro.esta_em("form_ok_nao").encerra();
+    joga();
+    recomeca_laco();
+    EXPECT_EQ(conteudo(arquivo), "isto não é um banco");
+    EXPECT_FALSE(std::filesystem::exists(guardado));
+    roteiro.pergunta("Atenção ...|O arquivo da horta, \"hortas00.mdb\", está danificado. Há uma cópia da horta como "
+                     "estava em 4/3/2026. Deseja continuar com ela ?",
+                     true);
+    roteiro.esta_em("ok").clica("opções");
+    entra().esta_em("INTRONEW").confere([] { EXPECT_EQ(st_cod_cult[37], cult_alface); });
+    joga();
+    EXPECT_EQ(conteudo(guardado), "isto não é um banco");
+}
+
+// O relógio de uma partida para a seguinte: adiantado, atrasado, nas viradas de mês, de ano e de horário de verão.
+TEST_F(Centro, ASemanaSoPassaNoDomingoDigaORelogioOQueDisser) {
+    using std::chrono::hours, std::chrono::minutes;
+    const struct {
+        Dia gravada;
+        Momento agora;
+        int semanas;
+        bool muito_adiante = false;
+    } casos[] = {
+        {dia(2026, 3, 4), dia(2026, 3, 3) + hours{9}, 0},
+        {dia(2026, 3, 4), dia(2026, 3, 5) + hours{9}, 0},
+        {dia(2026, 3, 11), dia(2026, 3, 4), 0}, // uma semana de atraso ainda pode ser engano; mais se diz
+        {dia(2026, 3, 12), dia(2026, 3, 4), 0, true},
+        {dia(2026, 3, 7), dia(2026, 3, 8), 1},
+        {dia(2026, 3, 8), dia(2026, 3, 7) + hours{23}, 0}, // atrasado para antes do domingo...
+        {dia(2026, 3, 8), dia(2026, 3, 8) + hours{9}, 0},  // ...e acertado: o domingo não conta outra vez
+        {dia(2026, 3, 4), dia(2126, 3, 4), 5218},
+        {dia(2126, 3, 4), dia(2026, 3, 4), 0, true},
+        {dia(2028, 2, 28), dia(2028, 2, 29), 0},
+        {dia(2028, 2, 29), dia(2028, 3, 5), 1},
+        {dia(2027, 12, 31), dia(2028, 1, 1), 0},
+        {dia(2028, 12, 30), dia(2028, 12, 31), 1},
+        {dia(2028, 12, 31), dia(2029, 1, 1), 0},
+        {dia(2018, 11, 3), dia(2018, 11, 4) + hours{1}, 1},                // o domingo que começou à uma hora
+        {dia(2018, 2, 17), dia(2018, 2, 17) + hours{23} + minutes{30}, 0}, // o sábado que teve duas vinte e três horas
+    };
+    for (const auto& c : casos) {
+        SCOPED_TRACE(texto_iso(c.gravada) + " " + texto_iso(std::chrono::floor<std::chrono::days>(c.agora)));
+        recomeca_laco();
+        relogio_de_teste.momento = c.agora;
+        prepara_banco();
+        planta(5, cult_couve, 0);
+        grava_semana(c.gravada);
+        entra();
+        if (c.muito_adiante)
+            roteiro.esta_em("ok")
+                .confere([&] {
+                    const std::string dito = "hoje é 4/3/2026.*até " + texto_do_dia(c.gravada);
+                    EXPECT_EQ(casa(msg_texto, dito.c_str()).size(), 1U) << msg_texto;
+                })
+                .clica("opções");
+        if (c.semanas > 0) roteiro.quadro("Nova Semana");
+        roteiro.esta_em("INTRONEW");
+        joga();
+        EXPECT_EQ(st_cod_cult[5], c.semanas < ciclo_horta[cult_couve] ? cult_couve : cult_vago);
+        EXPECT_EQ(st_idade[5], c.semanas < ciclo_horta[cult_couve] ? c.semanas : 0);
+        EXPECT_EQ(le_data_semana(), std::max(c.gravada, hoje()));
+    }
+}
+
+TEST_F(Centro, MeiaNoiteDeDomingoComOJogoAbertoContaUmaVezSo) {
+    prepara_banco();
+    planta(5, cult_couve, 0);
+    grava_semana(dia(2026, 2, 28));
+    consulta(arquivo, "INSERT INTO st VALUES (5,1,99,0,-1,-1)"); // o que não faz sentido é dito antes da semana nova
+    const auto vira = [this] { relogio_de_teste.momento = dia(2026, 3, 8) + std::chrono::minutes{1}; };
+    std::optional<BancoPreso> preso;
+    for (const bool primeira :
+         {true, false}) { // a meia-noite antes de pôr a semana em dia, sem poder gravar; ou depois
+        recomeca_laco();
+        relogio_de_teste.momento = dia(2026, 3, 7) + std::chrono::hours{23};
+        entra();
+        if (primeira) {
+            roteiro.esta_em("ok").confere(vira).clica("opções");
+            roteiro.esta_em("ok_help").confere([&] { preso.emplace(arquivo); }).tecla(SDLK_ESCAPE);
+            roteiro.esta_em("ok").confere([&] { preso.reset(); }).clica("opções");
+        }
+        roteiro.esta_em("INTRONEW").confere(vira).confere([] { EXPECT_EQ(st_idade[5], 1); });
+        vai_a_porta().clica("opções", 0).clica("opções", 0);
+        joga();
+        EXPECT_EQ(le_data_semana(), dia(2026, 3, 7));
+    }
+    recomeca_laco();
+    entra().quadro("Nova Semana").esta_em("INTRONEW");
+    joga();
+    EXPECT_EQ(st_idade[5], 2);
 }
 
 TEST_F(Centro, ViagensFalamAteOFimEAUltimaEscolhaVence) {

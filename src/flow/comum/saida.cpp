@@ -22,9 +22,9 @@ bool ha_pendencias() {
 
 void grava_tudo() {
     // Sem a data, a próxima partida envelheceria a horta outra vez.
-    if (!data_por_gravar) return grava_canteiros();
-    grava_semana(std::chrono::floor<std::chrono::days>(data_hoje));
+    data_por_gravar ? grava_semana(std::chrono::floor<std::chrono::days>(data_hoje)) : grava_canteiros();
     data_por_gravar = false;
+    guarda_copia();
 }
 
 // false quando não se pôde gravar: o jogo então fica aberto, com tudo na memória.

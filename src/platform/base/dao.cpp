@@ -360,6 +360,15 @@ std::vector<std::string> Database::campos(const std::string& tabela) {
     return campos_de(aberta(), tabela);
 }
 
+void Database::copia_para(Database& destino) {
+    const auto para = destino.aberta();
+    sqlite3_backup* copia = sqlite3_backup_init(para->banco, "main", aberta()->banco, "main");
+    if (copia == nullptr) para->falha(sqlite3_errcode(para->banco));
+    const int passo = sqlite3_backup_step(copia, -1);
+    const int fim = sqlite3_backup_finish(copia);
+    if (passo != SQLITE_DONE) para->falha(fim == SQLITE_OK ? passo : fim);
+}
+
 // ---- Workspace
 
 fs::path arquivo_do_banco(std::string_view caminho) {

@@ -101,6 +101,7 @@ struct Database {
     std::int64_t numero(const std::string& sql); // o inteiro da primeira coluna da primeira linha; 0 quando não há
     std::string texto(const std::string& sql);   // o mesmo, como texto
     std::vector<std::string> campos(const std::string& tabela); // vazio quando a tabela não existe
+    void copia_para(Database& destino);                         // o arquivo inteiro, como está gravado
     void Close() { conexao.reset(); }
 
 private:

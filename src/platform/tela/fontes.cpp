@@ -3,7 +3,9 @@
 #include "platform/base/caminhos.h"
 
 #include <cmath>
+#include <cstdio>
 #include <map>
+#include <set>
 #include <stdexcept>
 
 namespace verdalia {
@@ -20,8 +22,30 @@ constexpr double aumento_da_medida = 4;
 
 std::map<int, TTF_Font*> abertas; // chave: família, negrito e pixels
 
-const char* arquivo(const Letra& letra) {
-    return arquivos[letra.familia == Familia::legenda][letra.negrito];
+// Um arquivo pode abrir-se e não ter as letras, por estar cortado.
+bool tem_letras(TTF_Font* aberta) {
+    int largura = 0;
+    return TTF_SizeUTF8(aberta, "AZazãç09", &largura, nullptr) == 0 && largura > 0;
+}
+
+TTF_Font* abre(const char* nome, int pixels) {
+    const auto achado = acha(nome);
+    TTF_Font* aberta = achado ? TTF_OpenFont(achado->c_str(), pixels) : nullptr;
+    if (aberta != nullptr && tem_letras(aberta)) return aberta;
+    if (aberta != nullptr) TTF_CloseFont(aberta);
+    static std::set<std::string> ja_ditos; // uma linha por arquivo, mesmo que se peça em cada tamanho
+    if (ja_ditos.insert(nome).second) std::fprintf(stderr, "verdalia: letras que não puderam ser lidas: %s\n", nome);
+    return nullptr;
+}
+
+// O arquivo que falta, ou está estragado, é suprido pelo do outro peso, ou pelos da outra família.
+TTF_Font* abre_a_melhor(const Letra& letra, int pixels) {
+    const bool legenda = letra.familia == Familia::legenda;
+    for (const bool outra_familia : {false, true})
+        for (const bool outro_peso : {false, true})
+            if (TTF_Font* aberta = abre(arquivos[legenda != outra_familia][letra.negrito != outro_peso], pixels))
+                return aberta;
+    throw std::runtime_error("Nenhum arquivo de letras do jogo pôde ser lido. Instale o jogo de novo.");
 }
 
 } // namespace
@@ -29,9 +53,6 @@ const char* arquivo(const Letra& letra) {
 void abre_fontes() {
     if (TTF_WasInit() == 0 && TTF_Init() != 0)
         throw std::runtime_error(std::string("As letras não puderam ser abertas: ") + TTF_GetError());
-    for (const auto& familia : arquivos)
-        for (const char* nome : familia)
-            if (!acha(nome)) throw std::runtime_error(std::string("Falta um arquivo de letras do jogo: ") + nome);
     // Um arquivo estragado se descobre agora, e não no meio da partida.
     for (const Familia familia : {Familia::leitura, Familia::legenda})
         for (const bool negrito : {false, true}) fonte({.familia = familia, .negrito = negrito}, 1);
@@ -50,17 +71,11 @@ void fecha_fontes() {
 TTF_Font* fonte(const Letra& letra, double escala) {
     const int pixels = std::max(4, static_cast<int>(std::lround(letra.corpo * 4 / 3 * escala)));
     const int chave = (pixels << 2) | (static_cast<int>(letra.familia) << 1) | static_cast<int>(letra.negrito);
-    auto [lugar, nova] = abertas.try_emplace(chave, nullptr);
-    if (nova) {
-        const auto achada = acha(arquivo(letra));
-        TTF_Font* aberta = achada ? TTF_OpenFont(achada->c_str(), pixels) : nullptr;
-        if (aberta == nullptr) {
-            abertas.erase(lugar);
-            throw std::runtime_error(std::string("O arquivo de letras não pôde ser lido: ") + arquivo(letra));
-        }
-        TTF_SetFontKerning(aberta, 0);
-        TTF_SetFontHinting(aberta, TTF_HINTING_LIGHT_SUBPIXEL);
-        lugar->second = aberta;
+    auto lugar = abertas.find(chave);
+    if (lugar == abertas.end()) {
+        lugar = abertas.emplace(chave, abre_a_melhor(letra, pixels)).first;
+        TTF_SetFontKerning(lugar->second, 0);
+        TTF_SetFontHinting(lugar->second, TTF_HINTING_LIGHT_SUBPIXEL);
     }
     TTF_SetFontStyle(lugar->second, letra.sublinhado ? TTF_STYLE_UNDERLINE : TTF_STYLE_NORMAL);
     return lugar->second;

@@ -397,6 +397,9 @@ void termina(bool com_falha) {
 bool terminando() {
     return e.fim;
 }
+bool querem_sair() {
+    return e.fim || e.fecha_pedido;
+}
 bool terminou_com_falha() {
     return e.com_falha;
 }

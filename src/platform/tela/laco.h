@@ -14,6 +14,8 @@ void laco();
 // O jogo acaba: todos os laços aninhados voltam. Com falha quando foi ela que o impediu de seguir.
 void termina(bool com_falha = false);
 bool terminando();
+// O jogo acaba, ou quem o joga fechou a janela: um diálogo que se fecha agora não foi respondido.
+bool querem_sair();
 // Algum `termina` foi com falha, desde `recomeca_laco`.
 bool terminou_com_falha();
 // Roda só a janela (sem clique nem temporizador) por `ms` milissegundos: a espera de um som.

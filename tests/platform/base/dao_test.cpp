@@ -98,7 +98,7 @@ TEST_F(Dao, NadaSeGravaForaDaTransacaoQueFalhou) {
     disco.codigo_falha = SQLITE_FULL;
     junta(1);
     Passo passo(area);
-    disco.falha_em = disco.escritas;
+    disco.falha_em = disco.chamadas;
     EXPECT_THROW(junta(2), ErroBanco);
     disco.falha_em = -1;
     EXPECT_THROW(junta(3), ErroBanco);

@@ -1,5 +1,6 @@
 #include "platform/base/disco_de_teste.h"
 
+#include <csignal>
 #include <sqlite3.h>
 #include <unistd.h>
 
@@ -16,22 +17,32 @@ sqlite3_file* de_verdade(sqlite3_file* arquivo) {
     return arquivo + 1;
 }
 
-// A maior parte só passa adiante.
+// O que dá uma chamada: SQLITE_OK quando segue.
+int sorte(bool escrita) {
+    if (disco == nullptr || !(escrita || disco->toda_chamada)) return SQLITE_OK;
+    const int qual = disco->chamadas++;
+    if (disco->falha_em < 0 || qual < disco->falha_em || (disco->so_uma && qual > disco->falha_em)) return SQLITE_OK;
+    if (disco->mata) kill(getpid(), SIGKILL);
+    return disco->codigo_falha;
+}
+
 template <auto Metodo> struct Adiante;
 template <typename... A, int (*sqlite3_io_methods::*Metodo)(sqlite3_file*, A...)> struct Adiante<Metodo> {
     static int chama(sqlite3_file* f, A... a) { return (de_verdade(f)->pMethods->*Metodo)(de_verdade(f), a...); }
+    static int ou_falha(sqlite3_file* f, A... a) {
+        const int codigo = sorte(false);
+        return codigo != SQLITE_OK ? codigo : chama(f, a...);
+    }
 };
 
 int escreve(sqlite3_file* f, const void* dados, int quantos, sqlite3_int64 lugar) {
-    if (disco != nullptr && disco->falha_em >= 0 && disco->escritas >= disco->falha_em) {
-        if (disco->mata) _exit(1);
-        return disco->codigo_falha;
-    }
-    if (disco != nullptr) ++disco->escritas, ++disco->por_descarregar;
+    if (const int codigo = sorte(true); codigo != SQLITE_OK) return codigo;
+    if (disco != nullptr) ++disco->por_descarregar;
     return de_verdade(f)->pMethods->xWrite(de_verdade(f), dados, quantos, lugar);
 }
 
 int descarrega(sqlite3_file* f, int modo) {
+    if (const int codigo = sorte(false); codigo != SQLITE_OK) return codigo;
     if (disco != nullptr) disco->por_descarregar = 0;
     return de_verdade(f)->pMethods->xSync(de_verdade(f), modo);
 }
@@ -41,14 +52,14 @@ const sqlite3_io_methods metodos = [] {
     M m{};
     m.iVersion = 1;
     m.xClose = Adiante<&M::xClose>::chama;
-    m.xRead = Adiante<&M::xRead>::chama;
+    m.xRead = Adiante<&M::xRead>::ou_falha;
     m.xWrite = escreve;
-    m.xTruncate = Adiante<&M::xTruncate>::chama;
+    m.xTruncate = Adiante<&M::xTruncate>::ou_falha;
     m.xSync = descarrega;
-    m.xFileSize = Adiante<&M::xFileSize>::chama;
-    m.xLock = Adiante<&M::xLock>::chama;
-    m.xUnlock = Adiante<&M::xUnlock>::chama;
-    m.xCheckReservedLock = Adiante<&M::xCheckReservedLock>::chama;
+    m.xFileSize = Adiante<&M::xFileSize>::ou_falha;
+    m.xLock = Adiante<&M::xLock>::ou_falha;
+    m.xUnlock = Adiante<&M::xUnlock>::ou_falha;
+    m.xCheckReservedLock = Adiante<&M::xCheckReservedLock>::ou_falha;
     m.xFileControl = Adiante<&M::xFileControl>::chama;
     m.xSectorSize = Adiante<&M::xSectorSize>::chama;
     m.xDeviceCharacteristics = Adiante<&M::xDeviceCharacteristics>::chama;
@@ -57,11 +68,22 @@ const sqlite3_io_methods metodos = [] {
 
 int abre(sqlite3_vfs*, const char* nome, sqlite3_file* f, int modo, int* modo_dado) {
     f->pMethods = nullptr;
+    if (const int codigo = sorte(false); codigo != SQLITE_OK) return codigo;
     if (disco != nullptr && disco->so_leitura)
         modo = (modo & ~(SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE)) | SQLITE_OPEN_READONLY;
     const int codigo = sistema->xOpen(sistema, nome, de_verdade(f), modo, modo_dado);
     if (codigo == SQLITE_OK) f->pMethods = &metodos;
     return codigo;
+}
+
+int apaga(sqlite3_vfs*, const char* nome, int descarrega_a_pasta) {
+    const int codigo = sorte(false);
+    return codigo != SQLITE_OK ? codigo : sistema->xDelete(sistema, nome, descarrega_a_pasta);
+}
+
+int acessa(sqlite3_vfs*, const char* nome, int modo, int* pode) {
+    const int codigo = sorte(false);
+    return codigo != SQLITE_OK ? codigo : sistema->xAccess(sistema, nome, modo, pode);
 }
 
 } // namespace
@@ -72,6 +94,8 @@ DiscoDeTeste::DiscoDeTeste() {
     intermediario.szOsFile += static_cast<int>(sizeof(sqlite3_file));
     intermediario.zName = "disco_de_teste";
     intermediario.xOpen = abre;
+    intermediario.xDelete = apaga;
+    intermediario.xAccess = acessa;
     sqlite3_vfs_register(&intermediario, 1);
     disco = this;
 }

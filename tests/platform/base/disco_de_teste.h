@@ -10,27 +10,35 @@ struct DiscoDeTeste {
     DiscoDeTeste(const DiscoDeTeste&) = delete;
     DiscoDeTeste& operator=(const DiscoDeTeste&) = delete;
 
-    int falha_em = -1;    // a partir desta escrita (0 é a primeira)...
-    int codigo_falha = 0; // ...todas dão este código do SQLite
-    bool mata = false;    // em vez de falhar, o programa acaba ali
-    int escritas = 0;
-    int por_descarregar = 0; // escritas desde a última descarga
-    bool so_leitura = false; // os bancos abrem como se faltasse permissão para gravar
+    int falha_em = -1;         // a partir desta escrita (0 é a primeira)...
+    int codigo_falha = 0;      // ...todas dão este código do SQLite
+    bool toda_chamada = false; // conta e falha tudo o que se pede ao sistema, e não só as escritas
+    bool so_uma = false;       // falha uma vez só
+    bool mata = false;         // em vez de falhar, a energia acaba ali
+    int chamadas = 0;          // as que já houve, com as que falharam
+    int por_descarregar = 0;   // escritas desde a última descarga
+    bool so_leitura = false;   // os bancos abrem como se faltasse permissão para gravar
 };
 
-// Grava com o disco cheio desde a primeira escrita, desde a segunda... até que caiba; `confere` recebe se gravou.
-// Devolve quantas escritas couberam.
+// Faz a gravação falhar na primeira chamada, depois na segunda... até que não chegue àquela em que falharia; `confere`
+// recebe se gravou. Devolve quantas chamadas houve.
+template <class Grava, class Confere> int falha_em_cada_uma(DiscoDeTeste& disco, Grava grava, Confere confere) {
+    for (int qual = 0;; ++qual) {
+        disco.chamadas = 0;
+        disco.falha_em = qual;
+        const bool gravou = grava();
+        const bool falhou = disco.chamadas > qual;
+        disco.falha_em = -1;
+        confere(gravou);
+        if (!falhou) return qual;
+    }
+}
+
+// O mesmo com o disco cheio a partir de cada escrita.
 template <class Grava, class Confere> int enche_o_disco(Grava grava, Confere confere) {
     DiscoDeTeste disco;
     disco.codigo_falha = 13; // SQLITE_FULL
-    for (int cabem = 0;; ++cabem) {
-        disco.escritas = 0;
-        disco.falha_em = cabem;
-        const bool gravou = grava();
-        disco.falha_em = -1;
-        confere(gravou);
-        if (gravou) return cabem;
-    }
+    return falha_em_cada_uma(disco, grava, confere);
 }
 
 } // namespace verdalia

@@ -26,16 +26,19 @@ TEST(Calendario, SemanaDoAnoContraAFolhinha) {
         EXPECT_FALSE(dia_de_iso(torto)) << torto;
 }
 
-// O relógio de verdade mostra a hora da parede: com o fuso três horas atrás, três horas menos que a universal.
+// O relógio de verdade mostra a hora da parede: com o fuso três horas atrás, três horas menos que a universal; no
+// horário de verão, duas.
 TEST(Calendario, HoraLocal) {
     const char* antes = std::getenv("TZ");
     const std::string guardado = antes == nullptr ? "" : antes;
-    setenv("TZ", "BRT+3", 1);
-    Relogio verdadeiro;
-    const std::time_t inicio = std::time(nullptr);
-    const std::time_t lido = verdadeiro.agora().time_since_epoch().count() + 3 * 3600;
-    EXPECT_GE(lido, inicio);
-    EXPECT_LE(lido, std::time(nullptr));
+    for (const auto& [fuso, horas] : {std::pair("BRT+3", 3), std::pair("BRT3BRST,0/0,J365/25", 2)}) {
+        setenv("TZ", fuso, 1);
+        Relogio verdadeiro;
+        const std::time_t inicio = std::time(nullptr);
+        const std::time_t lido = verdadeiro.agora().time_since_epoch().count() + horas * 3600;
+        EXPECT_GE(lido, inicio) << fuso;
+        EXPECT_LE(lido, std::time(nullptr)) << fuso;
+    }
     antes == nullptr ? unsetenv("TZ") : setenv("TZ", guardado.c_str(), 1);
     RelogioDeTeste teste;
     teste.momento = dia(2026, 10, 18) + std::chrono::seconds{86399};
