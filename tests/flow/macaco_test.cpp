@@ -49,14 +49,16 @@ struct Macaco : Hospedeiro {
         const std::string quebrado = invariante_quebrado();
         if (previsao_ligada() != prevendo) {
             if (prevendo && Partida::horta() != verdadeira && !falhou)
-                falhou = !(erro = "a previsão mexeu na horta").empty();
+                falhou = true, erro = "a previsão mexeu na horta";
             prevendo = previsao_ligada();
         }
         if (!prevendo) verdadeira = Partida::horta();
-        if (!quebrado.empty() && !falhou) falhou = !(erro = quebrado).empty();
+        if (!quebrado.empty() && !falhou) falhou = true, erro = quebrado;
         if (falhou) restam = 0;
     }
 
+    // O programa fechou-se, e o que não se gravou foi-se.
+    void reabre() { prevendo = false; }
     int restam_agora() const { return restam; }
     bool um_em(int n) { return ate(n) == 0; }
     int ate(int n) { return int(sorte() % unsigned(n)); }
@@ -130,6 +132,8 @@ TEST_F(Macacada, NadaSeQuebra) {
         while (macaco.restam_agora() > 0 && !macaco.falhou) {
             recomeca_laco();
             esvazia();
+            data_previsao = data_hoje;
+            macaco.reabre();
             relogio_de_teste.momento += std::chrono::hours{macaco.ate(24 * 12)};
             mostra(TelaId::fundo);
             laco();
