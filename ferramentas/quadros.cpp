@@ -48,9 +48,9 @@ double valor_no_quadro(const std::vector<Chave>& chaves, double quadro, bool deg
     return antes.valor + (depois->valor - antes.valor) * (quadro - antes.quadro) / (depois->quadro - antes.quadro);
 }
 
-std::string formata(const char* formato, double a, double b = 0) {
+template <class... Numeros> std::string formata(const char* formato, Numeros... numeros) {
     char texto[96];
-    std::snprintf(texto, sizeof texto, formato, a, b);
+    std::snprintf(texto, sizeof texto, formato, numeros...);
     return texto;
 }
 

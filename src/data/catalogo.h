@@ -8,6 +8,7 @@
 namespace verdalia {
 
 inline constexpr int n_culturas = 21;
+inline constexpr std::size_t codigos_de_cultura = 22; // com o 0, de um lugar vago
 
 // Códigos de cultura. `cult_nenhuma` é um lugar fora do jogo; `cult_vago`, um lugar do jogo sem nada plantado.
 inline constexpr std::int16_t cult_nenhuma = -1, cult_vago = 0, cult_alface = 1, cult_chicoria = 2, cult_alho_poro = 3,
@@ -18,7 +19,7 @@ inline constexpr std::int16_t cult_nenhuma = -1, cult_vago = 0, cult_alface = 1,
                               cult_pepino = 21;
 
 // Tabelas por cultura, entradas 0 (`Vago`) a 21.
-template <typename T> using PorCultura = std::array<T, n_culturas + 1>;
+template <typename T> using PorCultura = std::array<T, codigos_de_cultura>;
 
 inline PorCultura<std::string> nome_cult;                 // "Alho Poró"
 inline PorCultura<std::string> abrev_cult;                // três letras, para o mapa do relatório

@@ -13,7 +13,8 @@ struct rank_form : Tela {
     Matriz<Painel> painel{*this, "painel"};
     // 0 a 4: os tempos; 5 a 9: as tentativas; 10 e 11: os cabeçalhos; 12: o título.
     Matriz<Rotulo> posição{*this, "posição"};
-    Matriz<Rotulo> nome{*this, "nome"}; // esconde o nome da tela, que está em Tela::nome
+    // Esconde o nome da tela, que está em Tela::nome.
+    Matriz<Rotulo> nome{*this, "nome"}; // cppcheck-suppress duplInheritedMember
     Matriz<Rotulo> valor{*this, "valor"};
     Matriz<Rotulo> quando{*this, "quando"};
     Figura enfeite{*this, "enfeite"};
