@@ -2,12 +2,13 @@
 # O jogo que não pode começar por causa do seu banco diz por quê e sai com 1, na abertura ou na primeira carga.
 . "$(dirname "$0")/apoio.sh" "$1"
 abre_servidor
-mkdir -p "$banco"
+mkdir -p "$(dirname "$banco")"
+ln -s "$banco" "$banco" # um atalho para si mesmo não se abre
 abre_jogo
 xdotool key Return
 espera_fim 1
 
-rmdir "$banco"
+rm "$banco"
 abre_jogo
 rm "$banco"
 mkdir "$banco"
