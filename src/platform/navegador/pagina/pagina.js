@@ -1,0 +1,125 @@
+// A página em que o jogo corre: prepara os arquivos, põe o programa a andar e faz o que ele pede (ver biblioteca.js).
+'use strict';
+
+const peca = (id) => document.getElementById(id);
+const canvas = peca('canvas');
+
+function recado(frase, de_novo) {
+  peca('frase').textContent = frase;
+  peca('de_novo').hidden = !de_novo;
+  peca('recado').hidden = false;
+}
+
+function baixa(nome, bytes, tipo) {
+  const ligacao = document.createElement('a');
+  ligacao.href = URL.createObjectURL(new Blob([bytes], { type: tipo }));
+  ligacao.download = nome;
+  ligacao.click();
+  setTimeout(() => URL.revokeObjectURL(ligacao.href), 60000);
+}
+
+// ---- o que o programa pede
+
+let volta = null; // quem espera por um evento
+let chegou = false;
+let em_jogo = false;
+let alarme = 0;
+
+const pagina = {
+  espera(ms, quando_voltar) {
+    peca('recado').hidden = true; // a primeira espera vem depois da primeira pintura
+    em_jogo = true;
+    volta = quando_voltar;
+    if (chegou) this.acorda();
+    else if (ms >= 0) alarme = setTimeout(() => this.acorda(), ms);
+  },
+
+  acorda() {
+    chegou = volta === null;
+    if (volta === null) return;
+    const quem = volta;
+    volta = null;
+    clearTimeout(alarme);
+    queueMicrotask(quem); // depois de terminar quem deu a notícia
+  },
+
+  falta: (caminho) => midias.falta(caminho),
+
+  async traz(caminho) {
+    try {
+      await midias.traz(caminho, Module.FS);
+      peca('rede').textContent = '';
+    } catch (erro) {
+      console.warn('verdalia: não veio da rede:', caminho, erro);
+      peca('rede').textContent = 'Sem rede: parte das figuras e das vozes ainda não veio.';
+    }
+  },
+
+  guarda: () => guarda.grava(Module.FS),
+
+  // A trava é do navegador, e solta-se com a página, mesmo por acidente. Espera um pouco pela página que se recarrega.
+  trava: () => new Promise((responde) => {
+    if (!navigator.locks) return responde(1);
+    navigator.locks.request('verdalia', { signal: AbortSignal.timeout(1000) }, () => {
+      responde(1);
+      return new Promise(() => {});
+    }).catch(() => responde(0));
+  }),
+
+  baixa(caminho) {
+    baixa(caminho.slice(caminho.lastIndexOf('/') + 1), Module.FS.readFile(caminho), 'application/pdf');
+  },
+
+  telaCheia() {
+    if (document.fullscreenElement) document.exitFullscreen();
+    else document.documentElement.requestFullscreen().catch(() => {});
+  },
+};
+
+// ---- o programa
+
+var Module = {
+  canvas,
+  pagina,
+  preRun: [() => {
+    Module.addRunDependency('arquivos');
+    Promise.all([lista, guarda.abre(Module.FS)]).then(() => {
+      midias.poeNaArvore(Module.FS);
+      Module.removeRunDependency('arquivos');
+    }).catch(falhou);
+  }],
+  onExit: () => {
+    em_jogo = false;
+    recado('Até logo! A horta continua a crescer, mesmo com o jogo fechado.', true);
+  },
+  onAbort: (razao) => falhou(razao),
+};
+const lista = midias.le();
+lista.catch(() => {});
+
+function falhou(razao) {
+  console.error('verdalia:', razao);
+  em_jogo = false;
+  recado('O jogo não pôde abrir. Confira a rede e o espaço livre neste aparelho, e tente outra vez.', true);
+}
+
+peca('de_novo').onclick = () => location.reload();
+peca('tela_cheia').onclick = () => pagina.telaCheia();
+canvas.addEventListener('contextmenu', (evento) => evento.preventDefault());
+// As teclas do próprio navegador continuam a ser dele.
+canvas.addEventListener('keydown', (evento) => {
+  if (evento.key === 'F5' || evento.key === 'F12' || evento.ctrlKey || evento.metaKey) evento.stopImmediatePropagation();
+}, { capture: true });
+window.addEventListener('beforeunload', (evento) => {
+  if (em_jogo) evento.preventDefault(); // sair pela porta é que pergunta se salva
+});
+atendeToques(canvas);
+canvas.focus();
+
+if (typeof WebAssembly !== 'object')
+  recado('Para jogar Verdalia é preciso um navegador com WebAssembly; neste ele falta ou está desligado. ' +
+    'Abra esta página num navegador mais novo, ou ligue o WebAssembly nas opções.');
+else
+  document.body.append(Object.assign(document.createElement('script'), {
+    src: 'verdalia.js', onerror: () => falhou('verdalia.js não veio'),
+  }));
