@@ -7,6 +7,7 @@
 
 #include <SDL.h>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <malloc.h>
 
@@ -51,5 +52,5 @@ int main() {
     recomeca_laco();
     janela.reset();
     fecha_fontes();
-    return saiu;
+    std::exit(saiu); // num navegador main já tinha voltado, ao esperar pela primeira vez
 }

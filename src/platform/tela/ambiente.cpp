@@ -1,5 +1,7 @@
 #include "platform/tela/ambiente.h"
 
+#include "platform/base/caminhos.h"
+#include "platform/tela/imagem.h"
 #include "platform/tela/tela.h"
 
 #include <algorithm>
@@ -52,6 +54,10 @@ SDL_Rect lugar_da_janela() {
 
 void arruma_janela(SDL_Window* janela) {
     SDL_SetWindowMinimumSize(janela, largura_logica / 2, altura_logica / 2);
+    if (const auto arquivo = acha("\\recursos\\icone64.bmp")) {
+        const Superficie icone(SDL_LoadBMP(arquivo->c_str()));
+        if (icone) SDL_SetWindowIcon(janela, icone.get());
+    }
 }
 
 void espera_evento(int ms) {

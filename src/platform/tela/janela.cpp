@@ -1,6 +1,5 @@
 #include "platform/tela/janela.h"
 
-#include "platform/base/caminhos.h"
 #include "platform/tela/ambiente.h"
 #include "platform/tela/aparelho_de_som.h"
 #include "platform/tela/fontes.h"
@@ -124,10 +123,6 @@ struct Janela : Hospedeiro {
         if (janela) arruma_janela(janela.get());
         if (!janela || SDL_GetWindowSurface(janela.get()) == nullptr)
             throw falha("A janela do jogo não pôde ser aberta");
-        if (const auto arquivo = acha("\\recursos\\icone64.bmp")) {
-            const Superficie icone(SDL_LoadBMP(arquivo->c_str()));
-            if (icone) SDL_SetWindowIcon(janela.get(), icone.get());
-        }
     }
 
     bool proximo(Evento& e) override {

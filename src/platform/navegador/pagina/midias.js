@@ -5,8 +5,9 @@ const midias = {
   chegando: new Map(), // nome → promessa dos bytes
   series: new Map(),   // "anima/cof" → nomes
 
-  // O que o começo pede, até o centro do jogo: vem enquanto o programa ainda se prepara.
-  comeco: /^(fontes\/|recursos\/(hortelao|mao)|anima\/port0|inintro|back_in)/,
+  // O que se vê primeiro vem enquanto o programa se prepara; o centro do jogo, enquanto se lê o primeiro diálogo.
+  comeco: /^(fontes\/|recursos\/(hortelao|mao|feira_(cen|alf|tom|bro|bgl|rab|pim))\.)/,
+  centro: /^(back_in|inintro1|anima\/(port00|cesta9|age10|int00|nhoca\d|enx00c|mudas007))/,
 
   serie: (nome) => nome.replace(/\d*\w?\.\w+$/, ''),
 
@@ -17,8 +18,12 @@ const midias = {
       const serie = this.serie(nome);
       if (!this.series.has(serie)) this.series.set(serie, []);
       this.series.get(serie).push(nome);
-      if (this.comeco.test(nome)) this.pede(nome);
     }
+    this.adianta(this.comeco);
+  },
+
+  adianta(quais) {
+    for (const nome of this.lista.keys()) if (quais.test(nome)) this.pede(nome).catch(() => {});
   },
 
   poeNaArvore(FS) {
@@ -50,12 +55,10 @@ const midias = {
   // Os bytes do arquivo passam a estar na pasta. Sem rede fica vazio, e o jogo diz o que falta.
   async traz(caminho, FS) {
     const nome = this.nome(caminho);
-    const da_serie = this.series.get(this.serie(nome)) || [];
-    if (da_serie.length <= 30)
-      for (const outro of da_serie) if (this.lista.has(outro)) this.pede(outro).catch(() => {});
     const bytes = await this.pede(nome);
     FS.writeFile('/programa/' + nome, new Uint8Array(bytes));
     this.lista.delete(nome);
     this.chegando.delete(nome);
+    for (const outro of this.series.get(this.serie(nome))) if (this.lista.has(outro)) this.pede(outro).catch(() => {});
   },
 };

@@ -27,8 +27,7 @@ let alarme = 0;
 
 const pagina = {
   espera(ms, quando_voltar) {
-    peca('recado').hidden = true; // a primeira espera vem depois da primeira pintura
-    em_jogo = true;
+    if (!em_jogo) comecou(); // a primeira espera vem depois da primeira pintura
     volta = quando_voltar;
     if (chegou) this.acorda();
     else if (ms >= 0) alarme = setTimeout(() => this.acorda(), ms);
@@ -76,6 +75,13 @@ const pagina = {
   },
 };
 
+function comecou() {
+  em_jogo = true;
+  peca('recado').hidden = true;
+  performance.mark('primeiro quadro');
+  midias.adianta(midias.centro);
+}
+
 // ---- o programa
 
 var Module = {
@@ -88,9 +94,9 @@ var Module = {
       Module.removeRunDependency('arquivos');
     }).catch(falhou);
   }],
-  onExit: () => {
+  onExit: (estado) => {
     em_jogo = false;
-    recado('Até logo! A horta continua a crescer, mesmo com o jogo fechado.', true);
+    recado(estado === 0 ? 'Até logo! A horta continua a crescer, mesmo com o jogo fechado.' : 'O jogo está fechado.', true);
   },
   onAbort: (razao) => falhou(razao),
 };
