@@ -17,7 +17,7 @@ namespace {
 
 int joga() {
     abre_fontes();
-    registra_telas(fabricas_do_jogo, sai_do_jogo, encerra_ja);
+    registra_telas(fabricas_do_jogo, sai_do_jogo, grava_ja);
     std::string recusa;
     try {
         if (!trava_partida()) recusa = "O jogo já está aberto em outra janela.";

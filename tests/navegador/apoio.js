@@ -14,7 +14,13 @@ const navegadores = {
 };
 const dorme = (ms) => new Promise((pronto) => setTimeout(pronto, ms));
 const pasta = fs.mkdtempSync(path.join(os.tmpdir(), 'verdalia-'));
-process.on('exit', () => fs.rmSync(pasta, { recursive: true, force: true }));
+process.on('exit', () => {
+  try {
+    fs.rmSync(pasta, { recursive: true, force: true });
+  } catch (erro) {
+    // o navegador ainda se fecha; é uma pasta temporária
+  }
+});
 
 // Serve a pasta do jogo; devolve o endereço e como parar.
 function serve(raiz) {
@@ -27,8 +33,17 @@ function serve(raiz) {
   }));
 }
 
-async function abreNavegador(qual, perfil = path.join(pasta, `perfil-${qual}`)) {
-  return puppeteer.launch({ browser: qual, headless: true, userDataDir: perfil, ...navegadores[qual] });
+// O que se baixa fica em `pasta`.
+async function abreNavegador(qual, perfil = fs.mkdtempSync(path.join(pasta, 'perfil-'))) {
+  const navegador = await puppeteer.launch({
+    browser: qual, headless: true, userDataDir: perfil, ...navegadores[qual],
+    extraPrefsFirefox: { 'browser.download.folderList': 2, 'browser.download.dir': pasta, 'dom.w3c_touch_events.enabled': 1 },
+  });
+  if (qual === 'chrome') {
+    const cdp = await navegador.target().createCDPSession();
+    await cdp.send('Browser.setDownloadBehavior', { behavior: 'allow', downloadPath: pasta });
+  }
+  return navegador;
 }
 
 class Jogo {
@@ -49,6 +64,7 @@ class Jogo {
   async carrega() {
     await this.pagina.goto(this.endereco);
     await this.ate(() => document.getElementById('recado').hidden);
+    await this.parado();
   }
 
   // Espera que a condição, avaliada na página, valha.
@@ -66,9 +82,10 @@ class Jogo {
     throw new Error(`${frase}\n  retrato: ${retrato}\n  queixas: ${this.queixas.join('\n')}`);
   }
 
-  // Espera que a tela fique parada; as que piscam nunca ficam, e então basta um tempo.
-  async parado(ms = 2500) {
+  // Espera que o programa não tenha o que fazer e a tela fique parada; as que piscam nunca ficam, e então basta um tempo.
+  async parado(ms = 4000) {
     const retrato = () => this.pagina.evaluate(() => {
+      if (volta === null) return NaN; // o programa trabalha, ou espera por um arquivo
       const c = document.getElementById('canvas');
       const pontos = new Uint32Array(c.getContext('2d').getImageData(0, 0, c.width, c.height).data.buffer);
       let soma = 0;
@@ -154,7 +171,11 @@ class Jogo {
       if (bytes) fs.writeFileSync(arquivo + sufixo, bytes);
       else fs.rmSync(arquivo + sufixo, { force: true });
     }
-    return execFileSync('sqlite3', [arquivo, sql], { encoding: 'utf8' }).trim();
+    try {
+      return execFileSync('sqlite3', [arquivo, sql], { encoding: 'utf8', stdio: 'pipe' }).trim();
+    } catch (erro) {
+      return erro.stderr;
+    }
   }
 
   async confere(sql, esperado, nome) {

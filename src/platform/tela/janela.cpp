@@ -72,6 +72,9 @@ bool traduz(const SDL_Event& s, Evento& e) {
         e = {.tipo = s.window.event == SDL_WINDOWEVENT_CLOSE ? Evento::fecha : Evento::janela};
         return s.window.event == SDL_WINDOWEVENT_EXPOSED || s.window.event == SDL_WINDOWEVENT_SIZE_CHANGED ||
                s.window.event == SDL_WINDOWEVENT_CLOSE;
+    case SDL_APP_WILLENTERBACKGROUND:
+        e = {.tipo = Evento::guarda};
+        return true;
     case SDL_QUIT: // um sinal, ou o ambiente gráfico que se foi
         e = {.tipo = Evento::encerra};
         return true;

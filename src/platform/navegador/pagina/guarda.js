@@ -24,14 +24,20 @@ const guarda = {
     pedido.onerror = () => falha(pedido.error);
   }),
 
-  arquivos(FS, pasta, achados = new Map()) {
+  arquivos(FS, pasta, le = (caminho) => FS.readFile(caminho), achados = new Map()) {
     for (const nome of FS.readdir(pasta)) {
       if (nome === '.' || nome === '..') continue;
       const caminho = `${pasta}/${nome}`;
-      if (FS.isDir(FS.stat(caminho).mode)) this.arquivos(FS, caminho, achados);
-      else achados.set(caminho, FS.readFile(caminho));
+      if (FS.isDir(FS.stat(caminho).mode)) this.arquivos(FS, caminho, le, achados);
+      else achados.set(caminho, le(caminho));
     }
     return achados;
+  },
+
+  // Um arquivo que só mudou de nome, ou saiu, não passa por quem espera pelo disco.
+  async gravaNomes(FS) {
+    const nomes = [...this.arquivos(FS, this.pasta, () => true).keys()];
+    if (nomes.length !== this.gravados.size || nomes.some((nome) => !this.gravados.has(nome))) await this.grava(FS);
   },
 
   // Devolve 0, ou o número do erro como o programa os conhece.

@@ -2,6 +2,7 @@
 // bytes vêm da rede quando o jogo pede o arquivo, e com ele os outros quadros da mesma série.
 const midias = {
   lista: new Map(),    // "anima/cof00.bmp" → endereço
+  enderecos: [],
   chegando: new Map(), // nome → promessa dos bytes
   series: new Map(),   // "anima/cof" → nomes
 
@@ -15,6 +16,7 @@ const midias = {
     const { arquivos } = await (await fetch('arquivos.json')).json();
     for (const [nome, endereco] of arquivos) {
       this.lista.set(nome, 'midias/' + endereco);
+      this.enderecos.push('midias/' + endereco);
       const serie = this.serie(nome);
       if (!this.series.has(serie)) this.series.set(serie, []);
       this.series.get(serie).push(nome);

@@ -29,6 +29,8 @@ const pagina = {
   espera(ms, quando_voltar) {
     if (!em_jogo) comecou(); // a primeira espera vem depois da primeira pintura
     volta = quando_voltar;
+    guarda.gravaNomes(Module.FS);
+    if (!chegou) parou();
     if (chegou) this.acorda();
     else if (ms >= 0) alarme = setTimeout(() => this.acorda(), ms);
   },
@@ -39,7 +41,7 @@ const pagina = {
     const quem = volta;
     volta = null;
     clearTimeout(alarme);
-    queueMicrotask(quem); // depois de terminar quem deu a notícia
+    Promise.resolve().then(quem); // depois de terminar quem deu a notícia
   },
 
   falta: (caminho) => midias.falta(caminho),
@@ -75,11 +77,61 @@ const pagina = {
   },
 };
 
+// ---- as cópias da horta
+
+// Cumpre-se quando o programa está parado à espera de um evento, sem nada por gravar.
+let parou = () => {};
+const parado = () => new Promise((pronto) => {
+  if (volta !== null && !chegou) pronto();
+  else parou = pronto;
+});
+
+const da_partida = guarda.pasta + '/hortas00.mdb';
+
+async function guardaCopia() {
+  if (!em_jogo) return;
+  await parado();
+  Module._verdalia_guarda();
+  await parado();
+  const dia = new Date().toLocaleDateString('sv'); // AAAA-MM-DD
+  baixa(`verdalia ${dia}.horta`, Module.FS.readFile(da_partida), 'application/vnd.sqlite3');
+}
+
+async function abreCopia(arquivo) {
+  const bytes = new Uint8Array(await arquivo.arrayBuffer());
+  const e_horta = new TextDecoder().decode(bytes.subarray(0, 15)) === 'SQLite format 3' && bytes.length < 4 << 20;
+  if (!e_horta) return alert(`"${arquivo.name}" não é uma cópia da horta. A horta deste navegador continua como estava.`);
+  if (!confirm('A horta que está neste navegador será trocada pela da cópia. Para ficar também com ela, desista agora e ' +
+    'guarde antes uma cópia. Trocar?')) return;
+  if (em_jogo) await parado();
+  em_jogo = false;
+  volta = null; // o programa já não volta a gravar
+  Module.FS.writeFile(da_partida, bytes);
+  if (await guarda.grava(Module.FS) !== 0)
+    alert('A cópia não coube neste navegador. A horta dele continua como estava.');
+  location.reload();
+}
+
 function comecou() {
   em_jogo = true;
   peca('recado').hidden = true;
   performance.mark('primeiro quadro');
   midias.adianta(midias.centro);
+  setTimeout(guardaParaSemRede, 4000);
+}
+
+// Depois do começo, e com vagar: a página e todas as mídias, para abrir sem rede.
+async function guardaParaSemRede() {
+  if (!navigator.serviceWorker) return; // sem https, só em localhost
+  navigator.serviceWorker.addEventListener('message', ({ data: tudo }) => {
+    if (tudo) peca('rede').textContent = 'Pronto para jogar sem rede.';
+  });
+  try {
+    await navigator.serviceWorker.register('servico.js');
+    (await navigator.serviceWorker.ready).active.postMessage(midias.enderecos);
+  } catch (erro) {
+    console.warn('verdalia: sem serviço:', erro);
+  }
 }
 
 // ---- o programa
@@ -109,6 +161,15 @@ function falhou(razao) {
   recado('O jogo não pôde abrir. Confira a rede e o espaço livre neste aparelho, e tente outra vez.', true);
 }
 
+peca('guardar').onclick = guardaCopia;
+peca('abrir').onclick = () => peca('escolhe').click();
+peca('escolhe').onchange = (evento) => {
+  if (evento.target.files.length > 0) abreCopia(evento.target.files[0]);
+  evento.target.value = '';
+};
+document.addEventListener('visibilitychange', () => {
+  if (document.hidden && em_jogo) Module._verdalia_guarda();
+});
 peca('de_novo').onclick = () => location.reload();
 peca('tela_cheia').onclick = () => pagina.telaCheia();
 canvas.addEventListener('contextmenu', (evento) => evento.preventDefault());
@@ -121,6 +182,12 @@ window.addEventListener('beforeunload', (evento) => {
 });
 atendeToques(canvas);
 canvas.focus();
+
+// O que interrompe o programa chega aqui, que ele só anda a partir de promessas.
+window.addEventListener('unhandledrejection', (evento) => {
+  if (evento.reason && evento.reason.name === 'ExitStatus') return evento.preventDefault(); // o fim; onExit já o disse
+  falhou(evento.reason);
+});
 
 if (typeof WebAssembly !== 'object')
   recado('Para jogar Verdalia é preciso um navegador com WebAssembly; neste ele falta ou está desligado. ' +

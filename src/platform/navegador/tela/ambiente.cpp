@@ -55,3 +55,9 @@ void alterna_tela_cheia(SDL_Window*) {
 }
 
 } // namespace verdalia
+
+// A página quer a horta gravada: vai ficar escondida, ou alguém pediu uma cópia.
+extern "C" EMSCRIPTEN_KEEPALIVE void verdalia_guarda() {
+    SDL_Event evento{.type = SDL_APP_WILLENTERBACKGROUND};
+    SDL_PushEvent(&evento);
+}
