@@ -51,7 +51,7 @@ class Jogo {
     const jogo = new Jogo();
     jogo.pagina = await navegador.newPage();
     jogo.queixas = [];
-    jogo.pagina.on('dialog', (d) => d.accept());
+    jogo.pagina.on('dialog', (d) => d.accept().catch(() => {}));
     jogo.pagina.on('pageerror', (e) => jogo.queixas.push(e.stack || e.message));
     jogo.pagina.on('console', (m) => m.type() === 'error' && jogo.queixas.push(m.text()));
     const firefox = (await navegador.version()).toLowerCase().includes('firefox');
@@ -69,7 +69,7 @@ class Jogo {
 
   // Espera que a condição, avaliada na página, valha.
   async ate(condicao, ...valores) {
-    const limite = Date.now() + 20000;
+    const limite = Date.now() + 60000;
     while (!(await this.pagina.evaluate(condicao, ...valores))) {
       if (Date.now() > limite) await this.falha(`nunca se deu: ${condicao}`);
       await dorme(50);
@@ -83,7 +83,7 @@ class Jogo {
   }
 
   // Espera que o programa não tenha o que fazer e a tela fique parada; as que piscam nunca ficam, e então basta um tempo.
-  async parado(ms = 4000) {
+  async parado(ms = 12000) {
     const retrato = () => this.pagina.evaluate(() => {
       if (volta === null) return NaN; // o programa trabalha, ou espera por um arquivo
       const c = document.getElementById('canvas');
@@ -93,7 +93,7 @@ class Jogo {
       return soma;
     });
     let antes = await retrato(), iguais = 0;
-    for (const limite = Date.now() + ms; Date.now() < limite && iguais < 3;) {
+    for (const limite = Date.now() + ms; Date.now() < limite && iguais < 4;) {
       await dorme(120);
       const agora = await retrato();
       iguais = agora === antes ? iguais + 1 : 0;

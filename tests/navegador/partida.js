@@ -55,21 +55,21 @@ async function main() {
   await vai(jogo, 60, 139); // a sementeira
   await jogo.arrasta(225, 82, 186, 274); // alface em A 1
   await vai(jogo, 60, 230); // a agenda
-  await jogo.clica(70, 289); // a impressora
-  await dorme(1500);
+  await vai(jogo, 70, 289); // a impressora
   await jogo.tecla('s');
   const relatorio = await baixado(/^semana.*\.pdf$/);
   await dorme(500);
   const papel = execFileSync('pdftotext', ['-layout', relatorio, '-'], { encoding: 'utf8' });
   if (!/Verdalia|Semana|semana/.test(papel)) throw new Error(`relatório sem texto: ${papel}`);
+  await jogo.pagina.bringToFront(); // o Firefox mostra-o numa aba nova
   await jogo.tecla('Enter'); // onde ele ficou
   await vai(jogo, 70, 80); // o hortelão
-  await jogo.clica(124, 74); // a porta
-  await dorme(1500);
+  await vai(jogo, 124, 74); // a porta
   await jogo.tecla('s');
+  await jogo.parado();
   await jogo.tecla('s');
-  await dorme(500);
-  await jogo.tecla('Enter'); // "Pendências", se as há
+  await jogo.parado();
+  await jogo.tecla('Enter'); // "Pendências"
   await jogo.ate(() => document.getElementById('frase').textContent.startsWith('Até logo'));
 
   const ha = [await jogo.pergunta(canteiros), await jogo.pergunta(leiras), await jogo.pergunta(pedido)];

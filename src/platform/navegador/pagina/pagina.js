@@ -25,6 +25,10 @@ let chegou = false;
 let em_jogo = false;
 let alarme = 0;
 
+function interrompeu(erro) {
+  if (!erro || erro.name !== 'ExitStatus') falhou(erro); // o fim, onExit já o disse
+}
+
 const pagina = {
   espera(ms, quando_voltar) {
     if (!em_jogo) comecou(); // a primeira espera vem depois da primeira pintura
@@ -41,7 +45,7 @@ const pagina = {
     const quem = volta;
     volta = null;
     clearTimeout(alarme);
-    Promise.resolve().then(quem); // depois de terminar quem deu a notícia
+    Promise.resolve().then(quem).catch(interrompeu); // depois de terminar quem deu a notícia
   },
 
   falta: (caminho) => midias.falta(caminho),
@@ -183,10 +187,10 @@ window.addEventListener('beforeunload', (evento) => {
 atendeToques(canvas);
 canvas.focus();
 
-// O que interrompe o programa chega aqui, que ele só anda a partir de promessas.
+// O que interrompe o programa depois de ele ter esperado por um arquivo ou pelo disco.
 window.addEventListener('unhandledrejection', (evento) => {
-  if (evento.reason && evento.reason.name === 'ExitStatus') return evento.preventDefault(); // o fim; onExit já o disse
-  falhou(evento.reason);
+  evento.preventDefault();
+  interrompeu(evento.reason);
 });
 
 if (typeof WebAssembly !== 'object')

@@ -45,7 +45,7 @@ async function guardaTudo(enderecos) {
   const um = async () => {
     while (faltam.length > 0) await guardado.add(faltam.shift());
   };
-  await Promise.all([um(), um(), um()]);
+  await Promise.all([um(), um()]);
 }
 
 self.addEventListener('message', (evento) => {
