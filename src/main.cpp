@@ -7,6 +7,7 @@
 
 #include <SDL.h>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <malloc.h>
 
@@ -16,7 +17,7 @@ namespace {
 
 int joga() {
     abre_fontes();
-    registra_telas(fabricas_do_jogo, sai_do_jogo, encerra_ja);
+    registra_telas(fabricas_do_jogo, sai_do_jogo, grava_ja);
     std::string recusa;
     try {
         if (!trava_partida()) recusa = "O jogo já está aberto em outra janela.";
@@ -51,5 +52,5 @@ int main() {
     recomeca_laco();
     janela.reset();
     fecha_fontes();
-    return saiu;
+    std::exit(saiu); // num navegador main já tinha voltado, ao esperar pela primeira vez
 }

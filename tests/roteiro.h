@@ -217,7 +217,7 @@ struct PartidaNaTela : Partida {
         som_ligado = musica_ligada = auto_abastecido = false;
         anim_acao = anim_quadros = 0;
         abre_fontes();
-        registra_telas(fabricas_do_jogo, sai_do_jogo, encerra_ja);
+        registra_telas(fabricas_do_jogo, sai_do_jogo, grava_ja);
     }
     ~PartidaNaTela() override {
         EXPECT_TRUE(roteiro.feito()) << "o jogo acabou antes do roteiro";

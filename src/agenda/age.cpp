@@ -15,7 +15,6 @@ using namespace agenda_tabelas;
 
 namespace {
 
-constexpr int quadros_por_fileira = 4;
 static_assert(std::size(tabela_das_listas) == n_listas);
 
 // Imprime o relatório da semana e, quando há canteiro vago, o da rotação; e diz onde ficaram.

@@ -62,15 +62,14 @@ void sai_do_jogo() {
     na_saida = false;
 }
 
-void encerra_ja() {
-    bool gravou = true;
+bool grava_ja() {
     try {
         if (!primeira_carga && !ja_decidiu) grava_tudo();
     } catch (const ErroBanco& erro) {
         std::fprintf(stderr, "verdalia: a horta não foi gravada: %s\n", erro.what());
-        gravou = false;
+        return false;
     }
-    termina(!gravou);
+    return true;
 }
 
 } // namespace verdalia

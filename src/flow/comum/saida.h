@@ -10,8 +10,9 @@ void sai_do_jogo();
 // "Deseja salvar ?"; a resposta fica em `resposta_sim`.
 void pergunta_gravar();
 
-// O sistema manda acabar já (fim da sessão, desligamento): grava sem perguntar e termina. Uma previsão não se grava, só
-// o estado verdadeiro; antes da primeira carga não há o que gravar. O que não se pôde gravar é dito em stderr.
-void encerra_ja();
+// O sistema manda acabar (fim da sessão, desligamento), ou pode fazê-lo sem outro aviso: grava sem perguntar. Uma
+// previsão não se grava, só o estado verdadeiro; antes da primeira carga não há o que gravar. Falso, com uma linha em
+// stderr, quando não se pôde gravar.
+bool grava_ja();
 
 } // namespace verdalia

@@ -1,5 +1,8 @@
 #include "platform/base/caminhos.h"
 
+#ifdef __EMSCRIPTEN__
+#include "platform/base/pagina.h"
+#endif
 #include "platform/base/texto.h"
 
 #include <algorithm>
@@ -128,7 +131,11 @@ std::optional<fs::path> acha(std::string_view texto) {
         return volume < volumes.size() ? acha_em(volumes[volume], caminho->partes) : std::nullopt;
     }
     if (auto achado = acha_em(pastas().jogador, caminho->partes)) return achado;
-    return acha_em(pastas().instalada, caminho->partes);
+    const auto achado = acha_em(pastas().instalada, caminho->partes);
+#ifdef __EMSCRIPTEN__
+    if (achado) pagina_traz(achado->c_str()); // num navegador os arquivos vêm à medida que se pedem
+#endif
+    return achado;
 }
 
 fs::path para_gravar(std::string_view texto) {

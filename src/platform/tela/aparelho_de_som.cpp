@@ -9,6 +9,11 @@ namespace verdalia {
 
 namespace {
 constexpr int amostras_por_segundo = 22050;
+#ifdef __EMSCRIPTEN__
+constexpr int amostras_por_vez = 2048; // o som divide com o jogo a vez da página, e não pode faltar
+#else
+constexpr int amostras_por_vez = 512;
+#endif
 constexpr std::int64_t bytes_por_segundo = std::int64_t{amostras_por_segundo} * 2;
 } // namespace
 
@@ -16,7 +21,7 @@ bool AparelhoDeSom::abre() {
     if (tentou_) return aberto_;
     tentou_ = true;
     aberto_ = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0 &&
-              Mix_OpenAudioDevice(amostras_por_segundo, AUDIO_S16SYS, 1, 512, nullptr, 0) == 0;
+              Mix_OpenAudioDevice(amostras_por_segundo, AUDIO_S16SYS, 1, amostras_por_vez, nullptr, 0) == 0;
     if (!aberto_)
         std::fprintf(stderr, "verdalia: sem aparelho de som (%s); o jogo segue em silêncio\n", SDL_GetError());
     return aberto_;

@@ -8,8 +8,9 @@
 namespace verdalia {
 
 struct Evento {
-    // `fecha`: o jogador fecha a janela. `encerra`: o sistema manda acabar já, e não há a quem perguntar.
-    enum Tipo { move, aperta, solta, roda, tecla, texto, janela, fecha, encerra };
+    // `fecha`: o jogador fecha a janela. `encerra`: o sistema manda acabar já, e não há a quem perguntar. `guarda`:
+    // pode fazê-lo sem outro aviso.
+    enum Tipo { move, aperta, solta, roda, tecla, texto, janela, fecha, encerra, guarda };
     Tipo tipo = janela;
     int x = 0, y = 0; // em pixels da janela
     int botao = 1;    // como em Mouse; na roda, o passo (positivo para cima)

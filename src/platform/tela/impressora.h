@@ -1,12 +1,12 @@
 // A impressora do sistema e o visor de documentos. São outros programas, chamados sem shell e sem esperar por eles mais
-// do que o devido; num navegador não existem.
+// do que o devido; num navegador, o arquivo se baixa.
 #pragma once
 
 #include <filesystem>
 
 namespace verdalia {
 
-enum class Entrega { aceita, sem_impressora, recusada, sem_resposta };
+enum class Entrega { aceita, sem_impressora, recusada, sem_resposta, baixada };
 
 inline constexpr int paciencia_com_a_impressora = 10000; // milissegundos
 

@@ -1,12 +1,11 @@
 #include "platform/tela/janela.h"
 
-#include "platform/base/caminhos.h"
+#include "platform/tela/ambiente.h"
 #include "platform/tela/aparelho_de_som.h"
 #include "platform/tela/fontes.h"
 #include "platform/tela/tela.h"
 
 #include <SDL.h>
-#include <algorithm>
 #include <csignal>
 #include <map>
 #include <stdexcept>
@@ -73,6 +72,9 @@ bool traduz(const SDL_Event& s, Evento& e) {
         e = {.tipo = s.window.event == SDL_WINDOWEVENT_CLOSE ? Evento::fecha : Evento::janela};
         return s.window.event == SDL_WINDOWEVENT_EXPOSED || s.window.event == SDL_WINDOWEVENT_SIZE_CHANGED ||
                s.window.event == SDL_WINDOWEVENT_CLOSE;
+    case SDL_APP_WILLENTERBACKGROUND:
+        e = {.tipo = Evento::guarda};
+        return true;
     case SDL_QUIT: // um sinal, ou o ambiente gráfico que se foi
         e = {.tipo = Evento::encerra};
         return true;
@@ -108,33 +110,6 @@ bool serve_ao_pintor(const SDL_PixelFormat& f) {
     return f.BytesPerPixel == 4 && f.Rloss == 0 && f.Gloss == 0 && f.Bloss == 0;
 }
 
-// Onde e de que tamanho a janela se abre: no meio do monitor em que está o mouse, com a proporção do jogo e sem tomar
-// mais que 7/8 do que as barras do ambiente deixam livre.
-SDL_Rect lugar_da_janela() {
-    SDL_Point mouse;
-    SDL_GetGlobalMouseState(&mouse.x, &mouse.y);
-    const int monitor = std::max(0, SDL_GetPointDisplayIndex(&mouse));
-    const int no_meio = static_cast<int>(SDL_WINDOWPOS_CENTERED_DISPLAY(static_cast<unsigned>(monitor)));
-    SDL_Rect livre;
-    if (SDL_GetDisplayUsableBounds(monitor, &livre) != 0) return {no_meio, no_meio, largura_logica, altura_logica};
-    const double escala = 7.0 / 8 * std::min(livre.w / double{largura_logica}, livre.h / double{altura_logica});
-    return {no_meio, no_meio, static_cast<int>(largura_logica * escala), static_cast<int>(altura_logica * escala)};
-}
-
-// O servidor X que cai no fim da sessão leva o programa por exit(), sem evento nenhum: há só este momento para gravar.
-void grava_se_o_servidor_cair() {
-    using Atende = int (*)(void* ligacao);
-    using Troca = Atende (*)(Atende);
-    void* biblioteca_do_x = SDL_LoadObject("libX11.so.6"); // a mesma que a SDL já usa
-    const auto troca = reinterpret_cast<Troca>(SDL_LoadFunction(biblioteca_do_x, "XSetIOErrorHandler"));
-    static Atende de_antes = nullptr;
-    if (troca != nullptr)
-        de_antes = troca([](void* ligacao) {
-            encerra();
-            return de_antes(ligacao);
-        });
-}
-
 struct Janela : Hospedeiro {
     BibliotecaAberta biblioteca;
     std::unique_ptr<SDL_Window, SoltaJanela> janela;
@@ -145,24 +120,12 @@ struct Janela : Hospedeiro {
     int largura_vista = 0, altura_vista = 0;
 
     explicit Janela(const char* titulo) {
-        const std::string modo = SDL_GetCurrentVideoDriver();
-        // Sem tela, a SDL recua para modos em que ninguém vê nem clica nada.
-        if (modo == "offscreen" || modo == "dummy" || modo == "evdev")
-            throw std::runtime_error("Não há tela onde abrir o jogo: ele precisa de um ambiente gráfico.");
-        // No X, sem aceleração: menos memória, e nada que dependa da placa. Os outros só mostram pontos por meio dela.
-        if (modo == "x11") {
-            SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
-            grava_se_o_servidor_cair();
-        }
+        prepara_ambiente();
         const SDL_Rect r = lugar_da_janela();
         janela.reset(SDL_CreateWindow(titulo, r.x, r.y, r.w, r.h, SDL_WINDOW_RESIZABLE));
+        if (janela) arruma_janela(janela.get());
         if (!janela || SDL_GetWindowSurface(janela.get()) == nullptr)
             throw falha("A janela do jogo não pôde ser aberta");
-        SDL_SetWindowMinimumSize(janela.get(), largura_logica / 2, altura_logica / 2);
-        if (const auto arquivo = acha("\\recursos\\icone64.bmp")) {
-            const Superficie icone(SDL_LoadBMP(arquivo->c_str()));
-            if (icone) SDL_SetWindowIcon(janela.get(), icone.get());
-        }
     }
 
     bool proximo(Evento& e) override {
@@ -173,10 +136,7 @@ struct Janela : Hospedeiro {
     }
 
     bool espera(std::int64_t ms) override {
-        if (ms < 0)
-            SDL_WaitEvent(nullptr);
-        else if (ms > 0)
-            SDL_WaitEventTimeout(nullptr, static_cast<int>(ms));
+        if (ms != 0) espera_evento(static_cast<int>(ms));
         return true;
     }
 
@@ -223,10 +183,7 @@ struct Janela : Hospedeiro {
                                                                           : SDL_CreateSystemCursor(d.do_sistema));
     }
 
-    void troca_tela_cheia() override {
-        const bool cheia = (SDL_GetWindowFlags(janela.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP) != 0;
-        SDL_SetWindowFullscreen(janela.get(), cheia ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
-    }
+    void troca_tela_cheia() override { alterna_tela_cheia(janela.get()); }
 
     int toca(const std::string& caminho) override { return som.toca(caminho); }
 };

@@ -155,6 +155,9 @@ void trata(const Evento& ev) {
     case Evento::encerra:
         encerra();
         break;
+    case Evento::guarda:
+        guarda_o_jogo();
+        break;
     }
     // Um som esperado pelo tratador já pintou a tela, antes do que ele mudou depois.
     if (ev.tipo != Evento::move) e.sujo = true;
@@ -351,7 +354,7 @@ void apaga_dica() {
 }
 
 void esquece_o_que_espera() {
-    std::erase_if(e.adiados, [](const Evento& adiado) { return adiado.tipo != Evento::encerra; });
+    std::erase_if(e.adiados, [](const Evento& adiado) { return adiado.tipo < Evento::encerra; });
 }
 
 void esquece_controle(const Controle* c) {

@@ -45,6 +45,9 @@ Impresso entrega(const fs::path& arquivo) {
     const std::string guardado =
         " guardado como \"" + arquivo.filename().string() + "\", na pasta " + pasta_curta(arquivo.parent_path());
     const Entrega entregue = manda_imprimir(arquivo);
+    if (entregue == Entrega::baixada)
+        return {Impresso::no_visor, "O navegador baixou o relatório, com o nome \"" + arquivo.filename().string() +
+                                        "\". Abra-o ali para o ver e imprimir."};
     if (entregue == Entrega::aceita)
         return {Impresso::na_impressora, "O relatório foi para a impressora e ficou" + guardado + "."};
     const std::string frase = por_que_nao(entregue) + std::string(" O relatório ficou") + guardado;

@@ -11,7 +11,7 @@ namespace {
 
 std::span<const FabricaDeTela> fabricas;
 void (*ao_fechar)() = nullptr;
-void (*ao_encerrar)() = nullptr;
+bool (*ao_guardar)() = nullptr;
 
 constexpr double altura_do_titulo = 32;
 constexpr double borda_do_dialogo = 8;
@@ -109,15 +109,18 @@ void arruma(Tela& tela, std::span<const Lugar> lugares) {
     }
 }
 
-void registra_telas(std::span<const FabricaDeTela> todas, void (*ao_fechar_a_janela)(), void (*ao_encerrar_o_jogo)()) {
+void registra_telas(std::span<const FabricaDeTela> todas, void (*ao_fechar_a_janela)(), bool (*grava_sem_perguntar)()) {
     fabricas = todas;
     ao_fechar = ao_fechar_a_janela;
-    ao_encerrar = ao_encerrar_o_jogo;
+    ao_guardar = grava_sem_perguntar;
+}
+
+bool guarda_o_jogo() {
+    return ao_guardar == nullptr || ao_guardar();
 }
 
 void encerra() {
-    if (ao_encerrar != nullptr) return ao_encerrar();
-    termina();
+    termina(!guarda_o_jogo());
 }
 
 Tela& carrega(TelaId id) {

@@ -76,11 +76,13 @@ struct FabricaDeTela {
     TelaId id;
     std::unique_ptr<Tela> (*cria)();
 };
-// A tabela de quem está atrás de cada nome; o que fazer quando o jogador pede para fechar a janela, e quando o sistema
-// manda acabar já (sem isto, só se termina).
+// A tabela de quem está atrás de cada nome; o que fazer quando o jogador pede para fechar a janela; e como gravar sem
+// perguntar, que devolve se gravou (sem isto, não há o que gravar).
 void registra_telas(std::span<const FabricaDeTela> fabricas, void (*ao_fechar_a_janela)(),
-                    void (*ao_encerrar_o_jogo)() = nullptr);
-// Faz o que se registrou para quando o sistema manda acabar.
+                    bool (*grava_sem_perguntar)() = nullptr);
+// O sistema pode acabar com o jogo sem outro aviso: grava, e diz se gravou.
+bool guarda_o_jogo();
+// O sistema manda acabar já: grava e termina.
 void encerra();
 
 // Carrega a tela se ainda não está (Form_Load), sem a mostrar.

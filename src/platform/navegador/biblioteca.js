@@ -1,0 +1,30 @@
+// O lado da página de platform/base/pagina.h. O que espera suspende o programa (Asyncify) até a promessa se cumprir.
+// `Module.pagina` é de pagina/*.js.
+mergeInto(LibraryManager.library, {
+  pagina_espera: function (ms) {
+    return Asyncify.handleSleep((volta) => Module.pagina.espera(ms, volta));
+  },
+  pagina_acorda: function () {
+    Module.pagina.acorda();
+  },
+  pagina_traz: function (caminho) {
+    const nome = UTF8ToString(caminho);
+    // No recomeço (Rewinding) é ao Asyncify que cabe responder, ainda que o arquivo já tenha vindo.
+    if (Asyncify.state === Asyncify.State.Normal && !Module.pagina.falta(nome)) return;
+    return Asyncify.handleAsync(() => Module.pagina.traz(nome));
+  },
+  pagina_trava: function () {
+    return Asyncify.handleAsync(() => Module.pagina.trava());
+  },
+  pagina_baixa: function (caminho) {
+    Module.pagina.baixa(UTF8ToString(caminho));
+  },
+  pagina_tela_cheia: function () {
+    Module.pagina.telaCheia();
+  },
+
+  // O disco do jogador é o IndexedDB: quem espera pelo disco espera que tudo o que mudou esteja lá.
+  fd_sync: function (fd) {
+    return Asyncify.handleAsync(() => Module.pagina.guarda());
+  },
+});
