@@ -16,7 +16,8 @@ constexpr std::size_t semanas_guardadas = 8;
 // "\hortas00 semana 2026-03-01.mdb": o domingo em que a semana começou.
 std::string caminho_da_copia(Dia dia) {
     const Dia domingo = dia - std::chrono::days{dia_da_semana(dia) - 1};
-    return "\\" + arquivo_do_banco(nome_banco).stem().string() + " semana " + texto_iso(domingo) + ".mdb";
+    const std::string raiz = arquivo_do_banco(nome_banco).stem();
+    return std::string("\\").append(raiz).append(" semana ").append(texto_iso(domingo)).append(".mdb");
 }
 
 // O dia em que a cópia foi posta em dia; nada quando ela não serve.
@@ -46,7 +47,7 @@ std::vector<std::string> copias_da_horta() {
         const std::string nome = item->path().filename().string();
         const std::size_t data = nome.rfind(' ') + 1;
         const auto dia = dia_de_iso(std::string_view(nome).substr(data).substr(0, 10));
-        if (dia && "\\" + nome == caminho_da_copia(*dia)) achadas.push_back("\\" + nome);
+        if (dia && caminho_da_copia(*dia).substr(1) == nome) achadas.push_back(caminho_da_copia(*dia));
     }
     std::sort(achadas.rbegin(), achadas.rend());
     return achadas;
