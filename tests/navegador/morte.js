@@ -2,6 +2,7 @@
 // abrir. E sem rede, depois da primeira visita, abre também. Uso: morte.js chrome|firefox PASTA
 'use strict';
 
+const { once } = require('node:events');
 const fs = require('node:fs');
 const path = require('node:path');
 const { Jogo, abreNavegador, dorme, pasta, serve } = require('./apoio.js');
@@ -34,8 +35,10 @@ async function main() {
     await jogo.arrasta(175, 104, 598, 563); // nabo em J 10
     jogo.pagina.evaluate(() => Module._verdalia_guarda()).catch(() => {});
     await dorme(demora);
+    const morreu = once(navegador.process(), 'exit');
     navegador.process().kill('SIGKILL');
-    await dorme(500);
+    await morreu;
+    await dorme(2000); // os processos que ele tinha ainda se vão
 
     navegador = await abreNavegador(qual, perfil);
     jogo = await Jogo.abre(navegador, servidor.endereco);

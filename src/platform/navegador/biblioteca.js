@@ -11,10 +11,10 @@ mergeInto(LibraryManager.library, {
     const nome = UTF8ToString(caminho);
     // No recomeço (Rewinding) é ao Asyncify que cabe responder, ainda que o arquivo já tenha vindo.
     if (Asyncify.state === Asyncify.State.Normal && !Module.pagina.falta(nome)) return;
-    return Asyncify.handleAsync(() => Module.pagina.traz(nome));
+    return Asyncify.handleSleep((volta) => Module.pagina.depois(Module.pagina.traz(nome), volta));
   },
   pagina_trava: function () {
-    return Asyncify.handleAsync(() => Module.pagina.trava());
+    return Asyncify.handleSleep((volta) => Module.pagina.depois(Module.pagina.trava(), volta));
   },
   pagina_baixa: function (caminho) {
     Module.pagina.baixa(UTF8ToString(caminho));
@@ -25,6 +25,6 @@ mergeInto(LibraryManager.library, {
 
   // O disco do jogador é o IndexedDB: quem espera pelo disco espera que tudo o que mudou esteja lá.
   fd_sync: function (fd) {
-    return Asyncify.handleAsync(() => Module.pagina.guarda());
+    return Asyncify.handleSleep((volta) => Module.pagina.depois(Module.pagina.guarda(), volta));
   },
 });

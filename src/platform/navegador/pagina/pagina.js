@@ -45,8 +45,11 @@ const pagina = {
     const quem = volta;
     volta = null;
     clearTimeout(alarme);
-    Promise.resolve().then(quem).catch(interrompeu); // depois de terminar quem deu a notícia
+    this.depois(Promise.resolve(), quem); // depois de terminar quem deu a notícia
   },
+
+  // O programa segue quando a promessa se cumpre.
+  depois: (promessa, quem) => promessa.then(quem).catch(interrompeu),
 
   falta: (caminho) => midias.falta(caminho),
 
@@ -186,12 +189,6 @@ window.addEventListener('beforeunload', (evento) => {
 });
 atendeToques(canvas);
 canvas.focus();
-
-// O que interrompe o programa depois de ele ter esperado por um arquivo ou pelo disco.
-window.addEventListener('unhandledrejection', (evento) => {
-  evento.preventDefault();
-  interrompeu(evento.reason);
-});
 
 if (typeof WebAssembly !== 'object')
   recado('Para jogar Verdalia é preciso um navegador com WebAssembly; neste ele falta ou está desligado. ' +
