@@ -17,7 +17,7 @@ constexpr Estrago estragos[] = {Estrago::falta, Estrago::vazio, Estrago::cortado
 struct Arquivos : PartidaNaTela {
     Arquivos() {
         SDL_setenv("SDL_AUDIODRIVER", "dummy", 1);
-        roteiro.aparelho = [this](const std::string& caminho) { return aparelho.toca(caminho); };
+        roteiro.aparelho = [this](const std::string& caminho) { return aparelho->toca(caminho); };
         define_pastas(jogador, programa);
         conserta();
         prepara_banco();
@@ -29,6 +29,8 @@ struct Arquivos : PartidaNaTela {
         setenv("PATH", "/nao/ha/nada", 1);
     }
     ~Arquivos() override {
+        aparelho.reset();
+        if (SDL_WasInit(SDL_INIT_AUDIO) != 0) SDL_QuitSubSystem(SDL_INIT_AUDIO);
         unsetenv("SDL_AUDIODRIVER");
         setenv("PATH", caminho_de_busca.c_str(), 1);
     }
@@ -106,7 +108,7 @@ struct Arquivos : PartidaNaTela {
             visita(TelaId::help);
         }
     }
-    AparelhoDeSom aparelho;
+    std::unique_ptr<AparelhoDeSom> aparelho = std::make_unique<AparelhoDeSom>();
     const fs::path programa = pasta.raiz / "programa";
     const std::string caminho_de_busca = std::getenv("PATH");
 };

@@ -49,7 +49,6 @@ struct FaltaDeLuz : PartidaNaTela {
 
 // Uma partida noutro processo, que morre na escrita `morre_em`, ou passados `morre_em_us`.
 TEST_F(FaltaDeLuz, FicaSempreUmEstadoInteiroENenhumaSemanaPassaDuasVezes) {
-    setenv("PATH", "/nao/ha/nada", 1);
     const std::string antes = no_disco(), bytes = conteudo(arquivo), sem_relatorio = relatorio();
     for (int s = 0; s < 3; ++s) passa_semana();
     const std::string passada = tudo(hoje());
@@ -65,6 +64,7 @@ TEST_F(FaltaDeLuz, FicaSempreUmEstadoInteiroENenhumaSemanaPassaDuasVezes) {
             DiscoDeTeste disco;
             disco.mata = true;
             disco.falha_em = morre_em;
+            setenv("PATH", "/nao/ha/nada", 1);
             recomeca_laco();
             partida_inteira().clica("saida").espera_ms(1050).teclas({SDLK_s, SDLK_s}).tecla(SDLK_ESCAPE);
             joga();
