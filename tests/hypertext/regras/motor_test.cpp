@@ -19,17 +19,6 @@ struct Motor : Partida {
     QuadroDeTeste quadro;
 };
 
-TEST_F(Motor, OProximoTermo) {
-    std::string_view s = "uma ##duas palavras|O Alvo~, fim";
-    EXPECT_EQ(proximo_termo(s), "uma ");
-    EXPECT_EQ(proximo_termo(s), "##duas palavras|O Alvo~");
-    EXPECT_EQ(proximo_termo(s), ", ");
-    EXPECT_EQ(proximo_termo(s), "fim");
-    EXPECT_EQ(proximo_termo(s), "");
-    s = "#sem til nenhum";
-    EXPECT_EQ(proximo_termo(s), "");
-}
-
 TEST_F(Motor, ALigacaoSeSepara) {
     std::string_view rotulo, alvo;
     EXPECT_TRUE(le_ligacao("####a b|\\anima\\x.bmp~", rotulo, alvo));
@@ -59,16 +48,11 @@ TEST_F(Motor, AsLinhasQuebramNaLargura) {
     quebra("123456789 123456789 123456789 123456789 ##1234567|Um alvo bem comprido~. b");
     EXPECT_EQ(linhas[2], "123456789 123456789 123456789 123456789 ##1234567|Um alvo bem comprido~.");
     EXPECT_EQ(linhas[3], " b");
-}
-
-TEST_F(Motor, ParagrafosELinhasEmendadas) {
-    EXPECT_EQ(quebra("um\ndois \ntrês\n\nquatro"), 5);
-    EXPECT_EQ(linhas[2], "umdois três ");
-    EXPECT_EQ(linhas[3], "");
-    EXPECT_EQ(linhas[4], "quatro");
+    // As linhas do documento se emendam; a vazia é um parágrafo.
+    EXPECT_EQ(quebra("um\ndois \n\nquatro"), 5);
+    EXPECT_EQ(linhas[2] + "/" + linhas[3] + "/" + linhas[4], "umdois //quatro");
     EXPECT_EQ(quebra_linhas("Não há", quadro), 3);
-    EXPECT_EQ(linhas[0], "Não há");
-    EXPECT_EQ(linhas[2], "");
+    EXPECT_EQ(linhas[0] + linhas[2], "Não há");
 }
 
 TEST_F(Motor, ALigacaoMalfeitaMostraSeComoTexto) {
@@ -79,10 +63,6 @@ TEST_F(Motor, ALigacaoMalfeitaMostraSeComoTexto) {
               (std::vector<std::string>{"200,0:a ", "400,0:##b ", "800,0:c~ ", "1100,0:##d|e ", "1700,0:f *",
                                         "1900,0:h ", "2100,0:#1 ", "2400,0:##i|~ ", "3000,0:j "}));
     EXPECT_EQ(n_zonas_tela, 1);
-    // O que ficou partido entre duas linhas ainda se lê.
-    quebra("##" + std::string(46, 'b') + " c~ d");
-    desenha_linhas(quadro, 2, n_linhas);
-    EXPECT_EQ(quadro.impressos.size(), 3U);
 }
 
 TEST_F(Motor, OTituloSoSeImprimeNoComeco) {
@@ -112,16 +92,13 @@ TEST_F(Motor, AsZonasTemBeirasQueNaoContam) {
     EXPECT_EQ(zona_em(499, 179), "Alvo");
     EXPECT_EQ(zona_em(700, 90), "Outro");
     EXPECT_TRUE(sobre_zona(700, 90));
-    struct Ponto {
-        double x, y;
-    };
-    for (const auto& [x, y] : {Ponto{200, 90}, {500, 90}, {300, 0}, {300, 180}, {550, 90}, {300, 300}})
+    for (const auto& [x, y] : {std::pair{200, 90}, {500, 90}, {300, 0}, {300, 180}, {550, 90}, {300, 300}})
         EXPECT_FALSE(sobre_zona(x, y)) << x << ',' << y;
     desenha_linhas(quadro, 3, n_linhas); // rolou para fora da vista
     EXPECT_EQ(zona_em(300, 90), "");
 }
 
-TEST_F(Motor, MaisDeQuinhentasLinhasEDeCemLigacoes) {
+TEST_F(Motor, OQuePassaDosLimitesFicaDeFora) {
     std::string texto;
     for (int i = 1; i <= 700; ++i) texto += "linha " + std::to_string(i) + "\n\n";
     testing::internal::CaptureStderr();
@@ -143,14 +120,10 @@ TEST_F(Motor, MaisDeQuinhentasLinhasEDeCemLigacoes) {
     EXPECT_EQ(n_zonas_tela, max_ligacoes);
     EXPECT_EQ(zonas[100].alvo, "T100");
     EXPECT_GT(zonas[100].base, zonas[100].topo);
-}
-
-TEST_F(Motor, APalavraEnormeNaoPassaDaEscala) {
+    // A palavra enorme não passa da escala das zonas.
     quebra("##" + std::string(800, 'x') + "|Alvo~ a");
-    quadro.x = 0;
     desenha_linhas(quadro, 0, n_linhas);
     EXPECT_EQ(zonas[1].dir, 32767);
-    EXPECT_EQ(quebra(std::string(1 << 20, 'x')), 4);
 }
 
 } // namespace
