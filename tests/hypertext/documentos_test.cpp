@@ -12,14 +12,10 @@ namespace {
 
 using namespace ajuda_tabelas;
 
-struct Ligacao {
-    std::string rotulo, alvo;
-};
-
 // Um tópico lido: o texto sem as marcas, em UTF-8, com "\n" entre os parágrafos, e as suas ligações.
 struct Lido {
     std::string texto;
-    std::vector<Ligacao> ligacoes;
+    std::vector<std::pair<std::string, std::string>> ligacoes; // rótulo, alvo
 };
 
 struct Documentos : PartidaNaTela {
@@ -50,7 +46,7 @@ struct Documentos : PartidaNaTela {
                 lisos += termo;
             } else if (le_ligacao(termo, rotulo, alvo)) {
                 lisos += rotulo;
-                lido.ligacoes.push_back({utf8_de_1252(rotulo), utf8_de_1252(alvo)});
+                lido.ligacoes.emplace_back(utf8_de_1252(rotulo), utf8_de_1252(alvo));
             } else {
                 ADD_FAILURE() << topico << ": ligação malfeita: " << termo;
             }
@@ -65,32 +61,17 @@ struct Documentos : PartidaNaTela {
     std::map<std::string, std::map<std::string, Lido>> lidos;
 };
 
-bool de_arquivo(const std::string& alvo) {
-    return alvo.size() >= 4 && alvo[alvo.size() - 4] == '.';
-}
-
-TEST_F(Documentos, CadaLigacaoLevaAAlgumLugarECadaTopicoSeAlcanca) {
+TEST_F(Documentos, CadaLigacaoLevaAAlgumLugarEACadaTopicoSeChega) {
     for (const auto& [nome, topicos] : lidos) {
-        std::set<std::string> vistos;
-        std::vector<std::string> por_ver{ordem[nome].front()};
-        while (!por_ver.empty()) {
-            const std::string topico = por_ver.back();
-            por_ver.pop_back();
-            if (!vistos.insert(topico).second) continue;
-            for (const auto& [rotulo, alvo] : topicos.at(topico).ligacoes) {
+        std::set<std::string> chega_se{ordem[nome].front()};
+        for (const auto& [topico, lido] : topicos)
+            for (const auto& [rotulo, alvo] : lido.ligacoes) {
                 const std::string onde = nome + ", " + topico + ", \"" + rotulo + "\": " + alvo;
-                if (de_arquivo(alvo)) {
-                    EXPECT_TRUE(acha(dir_media + alvo)) << onde;
-                    const std::string tipo = maiusculas(alvo.substr(alvo.size() - 3));
-                    EXPECT_TRUE(tipo == "WAV" || tipo == "MID" || tipo == "BMP" || tipo == "JPG") << onde;
-                } else if (topicos.contains(alvo)) {
-                    por_ver.push_back(alvo);
-                } else {
-                    ADD_FAILURE() << onde;
-                }
+                chega_se.insert(alvo);
+                const bool de_arquivo = !casa(maiusculas(alvo), "\\.(WAV|MID|BMP|JPG)$").empty();
+                EXPECT_TRUE(de_arquivo ? acha(dir_media + alvo).has_value() : topicos.contains(alvo)) << onde;
             }
-        }
-        for (const std::string& topico : ordem[nome]) EXPECT_TRUE(vistos.contains(topico)) << nome << ", " << topico;
+        for (const std::string& topico : ordem[nome]) EXPECT_TRUE(chega_se.contains(topico)) << nome << ", " << topico;
     }
 }
 
