@@ -163,23 +163,5 @@ TEST_F(Agenda, PerguntaAntesDeImprimirEDizOndeFicou) {
     EXPECT_TRUE(existe("semana 2026-10.pdf") && existe("rotacao 2026-10.pdf"));
 }
 
-// Nada se corta: nem o nome mais comprido, nem o lugar mais comprido, nem um título.
-TEST_F(Agenda, TudoCabeNaSuaColuna) {
-    auto& a = abre();
-    for (const auto& l : a.na_tela) {
-        for (std::int16_t c = 1; c <= n_culturas; ++c)
-            EXPECT_LE(largura_texto(nome_cult[c], l->cultura(0).letra), l->cultura(0).largura) << nome_cult[c];
-        for (auto* coluna : {&l->aonde, &l->aonde_sem})
-            for (const char* lugar : {"A 10", "J 10", "B 11", " 14m", "1x"})
-                if (coluna->existe(0)) {
-                    EXPECT_LE(largura_texto(lugar, (*coluna)(0).letra), (*coluna)(0).largura) << lugar;
-                }
-    }
-    for (const auto& [i, titulo] : a.Label1)
-        EXPECT_LE(quebra_linhas(titulo->texto, titulo->letra, titulo->largura).size() * altura_linha(titulo->letra),
-                  titulo->altura + 4)
-            << titulo->texto;
-}
-
 } // namespace
 } // namespace verdalia

@@ -1,36 +1,123 @@
-// As palavras, as ligações, a quebra em linhas, a impressão e as zonas.
+// Os arquivos de registros, byte por byte, inteiros ou estragados; as ligações, a quebra em linhas e as zonas.
 #include "apoio.h"
 #include "quadro_de_teste.h"
 
 namespace verdalia {
 namespace {
 
-struct Motor : Partida {
-    ~Motor() override { fecha_hipertexto(); }
+struct Hipertexto : Partida {
+    ~Hipertexto() override { fecha_hipertexto(); }
 
-    // Quebra o texto de um tópico "Um".
-    int quebra(const std::string& texto) {
-        escreve(instalada / "doc.Txt", "###Um\n" + texto);
+    void compila(const std::string& fonte) const {
+        escreve(instalada / "doc.Txt", fonte);
         compila_texto("\\doc.Txt");
         abre_hipertexto("\\doc.XXX");
+    }
+    // Um registro como fica no disco.
+    static std::string registro(std::string texto, std::int32_t numero) {
+        texto.resize(128, ' ');
+        for (int i = 0; i < 4; ++i) texto += static_cast<char>(numero >> (8 * i));
+        return texto;
+    }
+    std::string htf() const { return conteudo(jogador / "doc.HTF"); }
+    std::string idx() const { return conteudo(jogador / "doc.IDX"); }
+    // Quebra o texto de um tópico "Um".
+    int quebra(const std::string& texto) {
+        compila("###Um\n" + texto);
         n_linhas = static_cast<std::int16_t>(quebra_linhas("Um", quadro));
         return n_linhas;
     }
+
     QuadroDeTeste quadro;
 };
 
-TEST_F(Motor, OProximoTermo) {
-    std::string_view s = "uma ##duas palavras|O Alvo~, fim";
-    EXPECT_EQ(proximo_termo(s), "uma ");
-    EXPECT_EQ(proximo_termo(s), "##duas palavras|O Alvo~");
-    EXPECT_EQ(proximo_termo(s), ", ");
-    EXPECT_EQ(proximo_termo(s), "fim");
-    EXPECT_EQ(proximo_termo(s), "");
-    s = "#sem til nenhum";
-    EXPECT_EQ(proximo_termo(s), "");
+TEST_F(Hipertexto, OsRegistrosSaemByteAByte) {
+    // Antes do primeiro tópico o texto fica sem índice; a linha vazia é um parágrafo; as outras se emendam.
+    compila("perdido\n###Um\nabc\r\ndef \n\nghi\n###\nsem nome\n###Dois\n###Três");
+    EXPECT_EQ(htf(), registro("perdido", 0) + registro("abcdef  \r\n ghi", 0) + registro("sem nome", 0));
+    EXPECT_EQ(idx(), registro("Um", 2) + registro("Dois", 0) + registro("Três", 0));
+    EXPECT_EQ(n_topicos, 3);
+    EXPECT_EQ(texto_do_topico("Um"), "abcdef  \r\n ghi");
+    for (const char* vazio : {"Dois", "Três", "Quatro", "um"}) EXPECT_EQ(texto_do_topico(vazio), "") << vazio;
 }
 
-TEST_F(Motor, ALigacaoSeSepara) {
+TEST_F(Hipertexto, OsPedacosSeEncadeiamParaTras) {
+    const std::string curto(128, 'a'), quase(127, 'b'), com_branco = quase + " c", longo(300, 'd');
+    compila("###A\n" + curto + "\n###B\n" + com_branco + "\n###C\n" + longo + "\n");
+    EXPECT_EQ(htf(), registro(curto, 0) + registro(quase + '\1', 0) + registro("c", 2) +
+                         registro(longo.substr(0, 128), 0) + registro(longo.substr(0, 128), 4) +
+                         registro(longo.substr(0, 44), 5));
+    EXPECT_EQ(idx(), registro("A", 1) + registro("B", 3) + registro("C", 6));
+    EXPECT_EQ(texto_do_topico("A"), curto);
+    EXPECT_EQ(texto_do_topico("B"), com_branco);
+    EXPECT_EQ(texto_do_topico("C"), longo);
+    const std::string nulos("antes\0depois", 12);
+    compila("###Um\n" + nulos);
+    EXPECT_EQ(texto_do_topico("Um"), nulos);
+}
+
+TEST_F(Hipertexto, QuemMudaOTextoVeAMudancaNaProximaVez) {
+    compila("###Um\nvelho, e bem mais comprido do que o que vem depois\n###Dois\nx");
+    escreve(jogador / "doc.Txt", "###Um\nnovo"); // o da pasta do jogador vale mais
+    compila_texto("\\doc.Txt");
+    EXPECT_FALSE(arquivos_abertos);
+    abre_hipertexto("\\doc.1.XXX"); // o nome vai até o primeiro ponto
+    EXPECT_EQ(n_topicos, 1);
+    EXPECT_EQ(texto_do_topico("Um"), "novo");
+    EXPECT_EQ(htf().size() + idx().size(), 2U * tamanho_registro);
+}
+
+TEST_F(Hipertexto, TopicosDemaisFicamDeFora) {
+    std::string fonte;
+    for (int i = 1; i <= 120; ++i) fonte += "###T" + std::to_string(i) + "\ntexto " + std::to_string(i) + "\n";
+    testing::internal::CaptureStderr();
+    compila(fonte);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "verdalia: ajuda: o documento passa de 99 tópicos; os outros ficam de fora\n");
+    EXPECT_EQ(n_topicos, 99);
+    EXPECT_EQ(texto_do_topico("T99"), "texto 99");
+    EXPECT_EQ(texto_do_topico("T100"), "");
+
+    // Um índice estragado também não passa do fim da tabela.
+    escreve(jogador / "doc.IDX", idx() + registro("demais", 1) + "um pedaço de registro");
+    testing::internal::CaptureStderr();
+    abre_hipertexto("\\doc.XXX");
+    EXPECT_NE(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(n_topicos, 99);
+}
+
+TEST_F(Hipertexto, CorrenteEstragadaAcabaOndeSeEstragou) {
+    compila("###Um\n" + std::string(300, 'a'));
+    const std::string bom = htf();
+    const auto com_ligacao = [&](std::int32_t numero) {
+        escreve(jogador / "doc.HTF", registro("1", numero) + bom.substr(tamanho_registro));
+        abre_hipertexto("\\doc.XXX");
+        return texto_do_topico("Um").size();
+    };
+    EXPECT_EQ(com_ligacao(3), 128U + 44 + 1); // em círculo: cada registro se lê uma vez
+    EXPECT_EQ(com_ligacao(-5), 128U + 44 + 1);
+    EXPECT_EQ(com_ligacao(2147483647), 128U + 44 + 1);
+    escreve(jogador / "doc.HTF", bom.substr(0, 100));
+    abre_hipertexto("\\doc.XXX");
+    EXPECT_EQ(texto_do_topico("Um"), "");
+}
+
+TEST_F(Hipertexto, OQueNaoSePodeLerOuGravarDizPorQue) {
+    EXPECT_THROW(compila_texto("\\doc.Txt"), std::runtime_error);
+    EXPECT_THROW(abre_hipertexto("\\doc.XXX"), std::runtime_error);
+    std::filesystem::create_directories(jogador / "doc.Txt"); // uma pasta no lugar do documento
+    EXPECT_THROW(compila_texto("\\doc.Txt"), std::runtime_error);
+    std::filesystem::remove(jogador / "doc.Txt");
+    escreve(jogador / "doc.Txt", std::string(maior_documento + 1, 'x'));
+    EXPECT_THROW(compila_texto("\\doc.Txt"), std::runtime_error);
+    escreve(jogador / "doc.Txt", "###Um\nx");
+    escreve(jogador / "doc.HTF" / "ocupado", "x");
+    EXPECT_THROW(compila_texto("\\doc.Txt"), std::runtime_error);
+    EXPECT_FALSE(arquivos_abertos);
+    EXPECT_EQ(texto_do_topico("Um"), "");
+}
+
+TEST_F(Hipertexto, ALigacaoSeSepara) {
     std::string_view rotulo, alvo;
     EXPECT_TRUE(le_ligacao("####a b|\\anima\\x.bmp~", rotulo, alvo));
     EXPECT_EQ(rotulo, "a b");
@@ -41,7 +128,7 @@ TEST_F(Motor, ALigacaoSeSepara) {
         EXPECT_FALSE(le_ligacao(torta, rotulo, alvo)) << torta;
 }
 
-TEST_F(Motor, AsLinhasQuebramNaLargura) {
+TEST_F(Hipertexto, AsLinhasQuebramNaLargura) {
     // Cabem 48 letras depois da margem de 200, e o branco do fim da palavra conta.
     EXPECT_EQ(quebra("123456789 123456789 123456789 123456789 1234567 abc"), 4);
     EXPECT_EQ(linhas[0], "Um");
@@ -59,19 +146,14 @@ TEST_F(Motor, AsLinhasQuebramNaLargura) {
     quebra("123456789 123456789 123456789 123456789 ##1234567|Um alvo bem comprido~. b");
     EXPECT_EQ(linhas[2], "123456789 123456789 123456789 123456789 ##1234567|Um alvo bem comprido~.");
     EXPECT_EQ(linhas[3], " b");
-}
-
-TEST_F(Motor, ParagrafosELinhasEmendadas) {
-    EXPECT_EQ(quebra("um\ndois \ntrês\n\nquatro"), 5);
-    EXPECT_EQ(linhas[2], "umdois três ");
-    EXPECT_EQ(linhas[3], "");
-    EXPECT_EQ(linhas[4], "quatro");
+    // As linhas do documento se emendam; a vazia é um parágrafo.
+    EXPECT_EQ(quebra("um\ndois \n\nquatro"), 5);
+    EXPECT_EQ(linhas[2] + "/" + linhas[3] + "/" + linhas[4], "umdois //quatro");
     EXPECT_EQ(quebra_linhas("Não há", quadro), 3);
-    EXPECT_EQ(linhas[0], "Não há");
-    EXPECT_EQ(linhas[2], "");
+    EXPECT_EQ(linhas[0] + linhas[2], "Não há");
 }
 
-TEST_F(Motor, ALigacaoMalfeitaMostraSeComoTexto) {
+TEST_F(Hipertexto, ALigacaoMalfeitaMostraSeComoTexto) {
     EXPECT_EQ(quebra("a ##b c~ ##d|e ##f|G~ h #1 ##i|~ j ##k resto perdido"), 3);
     EXPECT_EQ(linhas[2], "a ##b c~ ##d|e ##f|G~ h #1 ##i|~ j ");
     desenha_linhas(quadro, 2, n_linhas);
@@ -79,13 +161,9 @@ TEST_F(Motor, ALigacaoMalfeitaMostraSeComoTexto) {
               (std::vector<std::string>{"200,0:a ", "400,0:##b ", "800,0:c~ ", "1100,0:##d|e ", "1700,0:f *",
                                         "1900,0:h ", "2100,0:#1 ", "2400,0:##i|~ ", "3000,0:j "}));
     EXPECT_EQ(n_zonas_tela, 1);
-    // O que ficou partido entre duas linhas ainda se lê.
-    quebra("##" + std::string(46, 'b') + " c~ d");
-    desenha_linhas(quadro, 2, n_linhas);
-    EXPECT_EQ(quadro.impressos.size(), 3U);
 }
 
-TEST_F(Motor, OTituloSoSeImprimeNoComeco) {
+TEST_F(Hipertexto, OTituloSoSeImprimeNoComeco) {
     quebra("abc ##de|Alvo~, fg\n\nh");
     desenha_linhas(quadro, 0, n_linhas);
     // O título tem 14 pontos e uma linha em branco embaixo; a linha vazia, 2.
@@ -105,23 +183,20 @@ TEST_F(Motor, OTituloSoSeImprimeNoComeco) {
     EXPECT_TRUE(quadro.impressos.empty());
 }
 
-TEST_F(Motor, AsZonasTemBeirasQueNaoContam) {
+TEST_F(Hipertexto, AsZonasTemBeirasQueNaoContam) {
     quebra("##ab|Alvo~. ##cd|Outro~");
     desenha_linhas(quadro, 2, n_linhas); // de 200 a 500 e de 600 a 800, de 0 a 180
     EXPECT_EQ(zona_em(201, 1), "Alvo");
     EXPECT_EQ(zona_em(499, 179), "Alvo");
     EXPECT_EQ(zona_em(700, 90), "Outro");
     EXPECT_TRUE(sobre_zona(700, 90));
-    struct Ponto {
-        double x, y;
-    };
-    for (const auto& [x, y] : {Ponto{200, 90}, {500, 90}, {300, 0}, {300, 180}, {550, 90}, {300, 300}})
+    for (const auto& [x, y] : {std::pair{200, 90}, {500, 90}, {300, 0}, {300, 180}, {550, 90}, {300, 300}})
         EXPECT_FALSE(sobre_zona(x, y)) << x << ',' << y;
     desenha_linhas(quadro, 3, n_linhas); // rolou para fora da vista
     EXPECT_EQ(zona_em(300, 90), "");
 }
 
-TEST_F(Motor, MaisDeQuinhentasLinhasEDeCemLigacoes) {
+TEST_F(Hipertexto, LinhasELigacoesDemaisFicamDeFora) {
     std::string texto;
     for (int i = 1; i <= 700; ++i) texto += "linha " + std::to_string(i) + "\n\n";
     testing::internal::CaptureStderr();
@@ -143,14 +218,10 @@ TEST_F(Motor, MaisDeQuinhentasLinhasEDeCemLigacoes) {
     EXPECT_EQ(n_zonas_tela, max_ligacoes);
     EXPECT_EQ(zonas[100].alvo, "T100");
     EXPECT_GT(zonas[100].base, zonas[100].topo);
-}
-
-TEST_F(Motor, APalavraEnormeNaoPassaDaEscala) {
+    // A palavra enorme não passa da escala das zonas.
     quebra("##" + std::string(800, 'x') + "|Alvo~ a");
-    quadro.x = 0;
     desenha_linhas(quadro, 0, n_linhas);
     EXPECT_EQ(zonas[1].dir, 32767);
-    EXPECT_EQ(quebra(std::string(1 << 20, 'x')), 4);
 }
 
 } // namespace

@@ -43,9 +43,7 @@ struct ComAparelho : PartidaNaTela {
     // Tudo o que soou desde que o aparelho foi ligado, até o fim do último som; o próximo recomeça a fita.
     std::string ouvido() {
         const bool ligado = Mix_QuerySpec(nullptr, nullptr, nullptr) != 0;
-        const std::uint64_t limite = SDL_GetTicks64() + 20000;
-        while (ligado && Mix_Playing(-1) != 0 && SDL_GetTicks64() < limite) SDL_Delay(1);
-        EXPECT_TRUE(!ligado || Mix_Playing(-1) == 0);
+        while (ligado && Mix_Playing(-1) != 0) SDL_Delay(1);
         desliga();
         const std::string fita = conteudo(pasta.raiz / "fita");
         std::filesystem::remove(pasta.raiz / "fita");
@@ -63,8 +61,6 @@ TEST_F(ComAparelho, CadaSotaqueTocaOsSeusClipesESoComAVozLigada) {
         const std::string clipe = amostras(dir_audio + "\\nabo.wav");
         fala("\\nabo.wav", sem_esperar);
         EXPECT_TRUE(ouvido() == sem_silencio(clipe)) << sotaque;
-        EXPECT_EQ(aparelho->toca(dir_audio + "\\nabo.wav"), static_cast<int>(clipe.size() / 2 * 1000 / 22050));
-        ouvido();
         som_ligado = false;
         fala("\\nabo.wav", espera_o_fim);
         EXPECT_EQ(ouvido(), "");
@@ -72,22 +68,20 @@ TEST_F(ComAparelho, CadaSotaqueTocaOsSeusClipesESoComAVozLigada) {
 }
 
 TEST_F(ComAparelho, SomNovoCortaOAnterior) {
-    efeito("\\hortafim.wav", sem_esperar);
-    const auto gravado = [this] {
+    const auto gravado = [fita = pasta.raiz / "fita"] {
         std::error_code nada;
-        const auto bytes = std::filesystem::file_size(pasta.raiz / "fita", nada);
-        return nada ? 0 : bytes;
+        return static_cast<std::intmax_t>(std::filesystem::file_size(fita, nada)); // -1: ainda não há
     };
+    efeito("\\hortafim.wav", sem_esperar);
     while (gravado() < 8192) SDL_Delay(1);
     efeito("\\blip.wav", sem_esperar);
     const std::string fita = ouvido(), trilha = sem_silencio(amostras("\\hortafim.wav"));
     const std::string blip = sem_silencio(amostras("\\blip.wav"));
-    ASSERT_GT(fita.size(), blip.size());
-    EXPECT_TRUE(fita.substr(fita.size() - blip.size()) == blip); // nada depois dele
+    ASSERT_TRUE(fita.ends_with(blip)); // nada depois dele
     const std::string antes = sem_silencio(fita.substr(0, fita.size() - blip.size()));
     EXPECT_GT(antes.size(), 2000U);
     EXPECT_LT(antes.size(), trilha.size());
-    EXPECT_TRUE(antes == trilha.substr(0, antes.size()));
+    EXPECT_TRUE(trilha.starts_with(antes));
 }
 
 TEST_F(ComAparelho, SomEsperadoSeguraQuemOPediuEAJanelaContinuaViva) {
