@@ -148,6 +148,7 @@ std::string tratos_do_catalogo(const Calendario& calendario, int cultura) {
 TEST_F(Documentos, OsNumerosDasCulturasSaoOsDoCatalogo) {
     // As páginas que não têm o nome da cultura; o cheiro-verde do jogo são duas.
     std::map<std::int16_t, std::vector<std::string>> paginas = {{cult_alho_poro, {"ALHO-PORÓ"}},
+                                                                {cult_brocolis, {"BRÓCOLIS"}},
                                                                 {cult_couve_flor, {"COUVE-FLÔR"}},
                                                                 {cult_cheiro_verde, {"SALSA", "CEBOLINHA"}}};
     for (std::int16_t c = 1; c <= n_culturas; ++c) {

@@ -147,8 +147,8 @@ TEST_F(Hipertexto, AsLinhasQuebramNaLargura) {
     EXPECT_EQ(linhas[2], "123456789 123456789 123456789 123456789 ##1234567|Um alvo bem comprido~.");
     EXPECT_EQ(linhas[3], " b");
     // As linhas do documento se emendam; a vazia é um parágrafo.
-    EXPECT_EQ(quebra("um\ndois \n\nquatro"), 5);
-    EXPECT_EQ(linhas[2] + "/" + linhas[3] + "/" + linhas[4], "umdois //quatro");
+    EXPECT_EQ(quebra("um\ndois \ntrês\n\nquatro"), 5);
+    EXPECT_EQ(linhas[2] + "/" + linhas[3] + "/" + linhas[4], "umdois três //quatro");
     EXPECT_EQ(quebra_linhas("Não há", quadro), 3);
     EXPECT_EQ(linhas[0] + linhas[2], "Não há");
 }
