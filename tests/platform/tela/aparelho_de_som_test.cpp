@@ -43,7 +43,9 @@ struct ComAparelho : PartidaNaTela {
     // Tudo o que soou desde que o aparelho foi ligado, até o fim do último som; o próximo recomeça a fita.
     std::string ouvido() {
         const bool ligado = Mix_QuerySpec(nullptr, nullptr, nullptr) != 0;
-        while (ligado && Mix_Playing(-1) != 0) SDL_Delay(1);
+        const std::uint64_t limite = SDL_GetTicks64() + 20000;
+        while (ligado && Mix_Playing(-1) != 0 && SDL_GetTicks64() < limite) SDL_Delay(1);
+        EXPECT_TRUE(!ligado || Mix_Playing(-1) == 0);
         desliga();
         const std::string fita = conteudo(pasta.raiz / "fita");
         std::filesystem::remove(pasta.raiz / "fita");
