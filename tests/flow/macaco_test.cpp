@@ -119,11 +119,15 @@ private:
     Superficie janela;
 };
 
-struct Macacada : PartidaNaTela {};
+struct Macacada : PartidaNaTela {
+    Macacada() { setenv("PATH", "/nao/ha/nada", 1); } // nem impressora nem leitor de folhas
+    ~Macacada() override { setenv("PATH", path.c_str(), 1); }
+
+    const std::string path = std::getenv("PATH");
+};
 
 // Com VERDALIA_LONGO no ambiente, um milhão de eventos.
 TEST_F(Macacada, NadaSeQuebra) {
-    setenv("PATH", "/nao/ha/nada", 1); // nem impressora nem leitor de folhas
     const int sementes = vezes(4, 20), eventos = vezes(5'000, 50'000);
     for (int semente = 1; semente <= sementes; ++semente) {
         std::filesystem::remove_all(jogador);
