@@ -131,7 +131,7 @@ std::optional<fs::path> acha(std::string_view texto) {
         return volume < volumes.size() ? acha_em(volumes[volume], caminho->partes) : std::nullopt;
     }
     if (auto achado = acha_em(pastas().jogador, caminho->partes)) return achado;
-    const auto achado = acha_em(pastas().instalada, caminho->partes);
+    auto achado = acha_em(pastas().instalada, caminho->partes);
 #ifdef __EMSCRIPTEN__
     if (achado) pagina_traz(achado->c_str()); // num navegador os arquivos vêm à medida que se pedem
 #endif
