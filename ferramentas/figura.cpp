@@ -1,5 +1,6 @@
-// Desenha uma figura do programa: figura FONTE.svg LARGURA ALTURA QUADRO ESTILO.css DESTINO, em pixels lógicos; o
-// desenho sai com o dobro deles. QUADRO é 0 e ESTILO é "" quando não se usam. Sai com 1 e diz por quê quando não pôde.
+// Desenha as figuras que saem de uma fonte: figura FONTE.svg e, para cada uma, LARGURA ALTURA QUADRO ESTILO.css DESTINO,
+// em pixels lógicos; o desenho sai com o dobro deles. QUADRO e ESTILO são "-" quando não se usam. Sai com 1 e diz por
+// quê quando não pôde.
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <librsvg/rsvg.h>
 
@@ -145,7 +146,7 @@ std::string em_jpeg(const Figura& f) {
 std::string desenha(const fs::path& fonte, int largura, int altura, int quadro, const std::string& estilo, bool jpeg) {
     std::string folha;
     if (quadro > 0) folha = folha_do_quadro(le_arquivo(fs::path(fonte).replace_extension(".quadros"), maximo), quadro);
-    if (!estilo.empty()) folha += le_arquivo(estilo, maximo);
+    if (estilo != "-") folha += le_arquivo(estilo, maximo);
     Figura f = desenha_svg(fonte, folha, largura * 2, altura * 2);
     if (jpeg) return em_jpeg(f);
     espalha_cor(f);
@@ -156,8 +157,9 @@ std::string desenha(const fs::path& fonte, int largura, int altura, int quadro, 
 } // namespace verdalia
 
 int main(int quantos, char** argumentos) {
-    if (quantos != 7) {
-        std::fprintf(stderr, "Uso: figura FONTE.svg LARGURA ALTURA QUADRO ESTILO.css DESTINO\n");
+    constexpr int cada = 5;
+    if (quantos < 2 + cada || (quantos - 2) % cada != 0) {
+        std::fprintf(stderr, "Uso: figura FONTE.svg {LARGURA ALTURA QUADRO ESTILO.css DESTINO}...\n");
         return 2;
     }
     // Cada filtro de um SVG pede e larga memória do tamanho da figura: guardada no processo, em vez de devolvida ao
@@ -167,9 +169,11 @@ int main(int quantos, char** argumentos) {
     mallopt(M_TOP_PAD, 64 * 1024 * 1024);
     try {
         using namespace verdalia;
-        const fs::path destino = argumentos[6];
-        grava_arquivo(destino, desenha(argumentos[1], std::atoi(argumentos[2]), std::atoi(argumentos[3]),
-                                       std::atoi(argumentos[4]), argumentos[5], destino.extension() == ".jpg"));
+        for (char** pedido = argumentos + 2; pedido != argumentos + quantos; pedido += cada) {
+            const fs::path destino = pedido[4];
+            grava_arquivo(destino, desenha(argumentos[1], std::atoi(pedido[0]), std::atoi(pedido[1]),
+                                           std::atoi(pedido[2]), pedido[3], destino.extension() == ".jpg"));
+        }
         return 0;
     } catch (const std::exception& erro) {
         std::fprintf(stderr, "%s: %s\n", argumentos[1], erro.what());

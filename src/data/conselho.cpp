@@ -49,13 +49,6 @@ int ate_envelhecer(std::span<const std::int16_t> culturas, std::span<const std::
     return sobra < 0 ? 0 : faltam[static_cast<std::size_t>(sobra)];
 }
 
-std::span<const std::int16_t> canteiros(const PorCanteiro<std::int16_t>& tabela) {
-    return {tabela.data(), n_canteiros};
-}
-std::span<const std::int16_t> leiras(const PorLeira<std::int16_t>& tabela) {
-    return {tabela.data(), n_leiras};
-}
-
 // Daqui a quantas semanas há muda pronta da cultura; -1 quando nenhuma leira a tem.
 int ate_haver_muda(std::int16_t c) {
     int menor = -1;

@@ -32,13 +32,6 @@ int pendencia(Coluna cod_cult, Coluna idade, Coluna check, std::string (*oper)(s
     return estado;
 }
 
-Coluna canteiros(const PorCanteiro<std::int16_t>& tabela) {
-    return {tabela.data(), n_canteiros};
-}
-Coluna leiras(const PorLeira<std::int16_t>& tabela) {
-    return {tabela.data(), n_leiras};
-}
-
 std::string nome_do_lugar(int n, int colunas) {
     return std::string(1, static_cast<char>('A' + n / colunas)) + ' ' + std::to_string(n % colunas + 1);
 }

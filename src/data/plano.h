@@ -1,10 +1,21 @@
 // As regras do plano da semana: o que falta plantar, semear e tratar, segundo o pedido e o estado da horta.
 #pragma once
 
+#include "data/estado.h"
+
 #include <cstdint>
+#include <span>
 #include <string>
 
 namespace verdalia {
+
+// Os lugares de uma tabela, sem a entrada que sobra no fim.
+inline std::span<const std::int16_t> canteiros(const PorCanteiro<std::int16_t>& tabela) {
+    return {tabela.data(), n_canteiros};
+}
+inline std::span<const std::int16_t> leiras(const PorLeira<std::int16_t>& tabela) {
+    return {tabela.data(), n_leiras};
+}
 
 // Algum canteiro tem essa cultura com idade 0?
 bool plantou_esta_semana(std::int16_t cod_cult);

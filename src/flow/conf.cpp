@@ -65,9 +65,9 @@ constexpr Retangulo partes[] = {{0, 0, 490, 592}, {490, 0, 302, 592}};
 
 constexpr const char* enfeites[] = {"\\recursos\\hortelao.bmp", "\\anima\\5.jpg", "\\anima\\0.jpg", "\\anima\\17.jpg"};
 
-constexpr std::int16_t acao_interroga = 19;
+constexpr std::int16_t acao_ajuda = 19;
 constexpr Serie series[] = {
-    {.acao = acao_interroga, .controle = "interroga", .quadros = {"\\anima\\int", de_5_a_0}},
+    {.acao = acao_ajuda, .controle = "interroga", .quadros = {"\\anima\\int", de_5_a_0}},
 };
 
 constexpr const char* titulo_dos_avisos = "Opções";
@@ -207,7 +207,7 @@ void conf::Labelgame_Click() {
 }
 
 void conf::interroga_Click() {
-    animacao.comeca(acao_interroga);
+    animacao.comeca(acao_ajuda);
     interroga.ponteiro = ponteiro_ampulheta;
 }
 

@@ -11,7 +11,7 @@ namespace verdalia {
 
 namespace {
 
-constexpr Lugar lugares[] = {
+constexpr Lugar lugares_do_cd[] = {
     {"Image1", -1, 18, 20, 120, 120},           {"Label5", -1, 156, 22, 300, 30, "Informe sua unidade de CD ?"},
     {"Combo1", -1, 156, 60, 110, 34},           {"o_que_ha", -1, 156, 98, 300, 40},
     {"Command1", -1, 200, 152, 110, 42, "&Ok"}, {"Command2", -1, 326, 152, 110, 42, "&Sair"},
@@ -25,7 +25,7 @@ void Conf_cd::Form_Load() {
     largura = 470;
     altura = 210;
     cor_fundo = cor_papel_claro;
-    arruma(*this, lugares);
+    arruma(*this, lugares_do_cd);
     Image1.figura = carrega_figura("\\recursos\\hortelao.bmp");
     Label5.alinha = o_que_ha.alinha = Alinha::esquerda;
     Label5.letra = {.corpo = 15};

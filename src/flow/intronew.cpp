@@ -17,7 +17,7 @@ namespace verdalia {
 namespace {
 
 // clang-format off
-constexpr Lugar lugares[] = {
+constexpr Lugar lugares_da_abertura[] = {
     {"saida", -1, 74, 14, 100, 120, "", "Sair do Programa"},
     {"pic_feira", -1, 84, 150, 80, 62, "", "Ir para a tela da Feira - Auto abastecimento"},
     {"pic_horta", -1, 84, 240, 80, 62, "", "Ir para a horta"},
@@ -35,7 +35,7 @@ constexpr Lugar lugares[] = {
 };
 
 // O que se lê primeiro: os caminhos, o guia.
-constexpr Retangulo partes[] = {{0, 0, 240, 592}, {240, 0, 552, 592}};
+constexpr Retangulo partes_da_abertura[] = {{0, 0, 240, 592}, {240, 0, 552, 592}};
 
 // As palavras quentes do guia: o título do quadro e a figura que ele mostra.
 struct Pagina {
@@ -61,7 +61,7 @@ constexpr int ultima_pagina = std::size(paginas) - 1;
 
 enum : std::int16_t { acao_saida = 2, acao_horta = 17, acao_feira, acao_interroga };
 
-constexpr Serie series[] = {
+constexpr Serie series_da_abertura[] = {
     {.acao = acao_saida, .controle = "saida", .quadros = {"\\anima\\port", porta_abre_e_fecha}},
     serie_agenda,
     serie_mudas,
@@ -75,8 +75,9 @@ constexpr int intervalo_da_minhoca = 100;
 
 } // namespace
 
-INTRONEW::INTRONEW() : Tela("INTRONEW"), animacao{*this, timer_, series, [this](int acao) { fim_da_animacao(acao); }} {
-    paineis.assign(std::begin(partes), std::end(partes));
+INTRONEW::INTRONEW()
+    : Tela("INTRONEW"), animacao{*this, timer_, series_da_abertura, [this](int acao) { fim_da_animacao(acao); }} {
+    paineis.assign(std::begin(partes_da_abertura), std::end(partes_da_abertura));
 }
 
 void INTRONEW::cria_guia() {
@@ -103,7 +104,7 @@ void INTRONEW::cria_guia() {
 void INTRONEW::cria_controles() {
     cria_guia();
     for (int i = 0; i < 5; ++i) legenda.cria(i).letra = {.familia = Familia::legenda, .corpo = 11, .negrito = true};
-    arruma(*this, lugares);
+    arruma(*this, lugares_da_abertura);
     pic_nhoca.atravessa = true;
     Label2.quente = true;
     Label2.letra = {.familia = Familia::legenda, .corpo = 13, .negrito = true};

@@ -8,7 +8,7 @@ namespace verdalia {
 
 namespace {
 
-constexpr Lugar lugares[] = {
+constexpr Lugar lugares_do_nome[] = {
     {"Image1", -1, 18, 18, 120, 120},
     {"mensagem", 0, 154, 14, 372, 92, "  Você foi brilhante !  Acaba de entrar para o RANK dos 5 melhores. Yehh !"},
     {"mensagem", 1, 154, 112, 372, 28, "  Escreva seu nome"},
@@ -33,7 +33,7 @@ void mem_ok::Form_Load() {
     cor_fundo = cor_papel_claro;
     mensagem.cria(0);
     mensagem.cria(1);
-    arruma(*this, lugares);
+    arruma(*this, lugares_do_nome);
     Image1.figura = carrega_figura("\\recursos\\hortelao.bmp");
     for (int i = 0; i < 2; ++i) {
         mensagem(i).letra = {.corpo = 16};

@@ -23,7 +23,7 @@ constexpr Coluna colunas[] = {
     {&rank_form::valor, 532, 72, Alinha::direita, {"TEMPO", "CLIQUES"}},
     {&rank_form::quando, 612, 110, Alinha::direita, {"DIA", "DIA"}},
 };
-constexpr Lugar lugares[] = {
+constexpr Lugar lugares_do_ranking[] = {
     {"painel", 0, 52, 104, 688, 186},
     {"painel", 1, 52, 302, 688, 186},
     {"nome", 12, 120, 50, 552, 46, "Os melhores do ranking"},
@@ -37,9 +37,9 @@ constexpr int primeira_de_tempo = 0, primeira_de_cliques = 5, n_linhas = 10;
 constexpr int cabecalho_de_tempo = 10, cabecalho_de_cliques = 11, titulo_da_tela = 12;
 constexpr double altura_da_linha = 29;
 
-enum { comando_zerar, comando_retornar, n_comandos };
+enum { comando_zerar, comando_volta, n_comandos_do_ranking };
 
-constexpr int intervalo_do_pisca = 100;
+constexpr int intervalo_dos_nomes = 100;
 constexpr int piscadas_dos_nomes = 12; // par: acabam à vista
 
 // A linha do lugar `pos`, contada da primeira do seu ranking; o de um ranking vazio é o primeiro.
@@ -69,12 +69,12 @@ void rank_form::Form_Load() {
     painel.cria(0);
     painel.cria(1);
     nome.cria(titulo_da_tela).letra = {.familia = Familia::legenda, .corpo = 22, .negrito = true};
-    for (int i = 0; i < n_comandos; ++i) {
+    for (int i = 0; i < n_comandos_do_ranking; ++i) {
         Label1.cria(i).letra.corpo = 14;
         Label1(i).ponteiro = ponteiro_mao;
         Label1(i).clique = [this, i] { Label1_Click(i); };
     }
-    arruma(*this, lugares);
+    arruma(*this, lugares_do_ranking);
     cria_tabela(primeira_de_tempo, cabecalho_de_tempo, painel(0).topo + 6);
     cria_tabela(primeira_de_cliques, cabecalho_de_cliques, painel(1).topo + 6);
     enfeite.figura = carrega_figura("\\recursos\\hortelao.bmp");
@@ -103,7 +103,7 @@ void rank_form::Mostra() {
     }
     const bool ha_lugar_novo = std::min(pos_tempo, pos_cliques) <= lugares_no_ranking;
     piscadas = piscadas_dos_nomes;
-    Timer1.intervalo = ha_lugar_novo ? intervalo_do_pisca : 0;
+    Timer1.intervalo = ha_lugar_novo ? intervalo_dos_nomes : 0;
 }
 
 void rank_form::Timer1_Timer() {
@@ -118,7 +118,7 @@ void rank_form::Timer1_Timer() {
 }
 
 void rank_form::Label1_Click(int Index) {
-    if (Index == comando_retornar) return descarrega(*this);
+    if (Index == comando_volta) return descarrega(*this);
     if (!pergunta("Atenção", "Deseja 'zerar' o ranking ?", {.perde_algo = true})) return;
     tenta_no_banco("Atenção", "O ranking continua como estava.", [this] {
         zera_ranking();

@@ -8,8 +8,6 @@ namespace verdalia {
 
 namespace {
 
-EstadoDoLaco& e = estado_do_laco;
-
 Retangulo na_tela(const Controle& c, Retangulo r) {
     r.x += c.dona.origem_x();
     r.y += c.dona.origem_y();

@@ -94,7 +94,7 @@ constexpr LetraImpressa letra_titulo{22, true}, letra_subtitulo{13}, letra_rodap
     letra_grupo{12.5, true}, letra_linha{12.5}, letra_lugar{12.5, true}, letra_vazio{15}, letra_cabecalho{11.5, true},
     letra_tabela{11.5}, letra_nota{10}, letra_celula{11, true}, letra_trato{7, true}, letra_semanas{8};
 constexpr double cinza_secao = 0.85, cinza_faixa = 0.94;
-constexpr double altura_secao = 8.5, altura_grupo = 9, altura_linha = 7, altura_nota = 4.8;
+constexpr double altura_secao = 8.5, altura_grupo = 9, altura_fileira = 7, altura_nota = 4.8;
 constexpr double lado_do_quadradinho = 4.2, depois_do_quadradinho = 7;
 constexpr double altura_regua = 6, menor_celula = 11, maior_celula = 16;
 constexpr int lado_do_mapa = 10;
@@ -212,7 +212,7 @@ struct Jornal {
     bool mesmo_grupo(std::size_t i, std::size_t j) const { return valor(i, b.grupo) == valor(j, b.grupo); }
 
     void linha(std::size_t i, double x, double topo) const {
-        const double base = topo + altura_linha - 2;
+        const double base = topo + altura_fileira - 2;
         d.folhas.moldura({x + 0.3, base - lado_do_quadradinho + 0.6, lado_do_quadradinho, lado_do_quadradinho}, 0.9);
         x += depois_do_quadradinho;
         for (const ColunaImpressa& c : b.colunas) {
@@ -228,14 +228,14 @@ struct Jornal {
         double usada = 0;
         for (const std::size_t primeira = i; i < fim; ++i) {
             const bool nomeia = !b.grupo.empty() && (i == primeira || !mesmo_grupo(i, i - 1));
-            const double pede = altura_linha + (nomeia ? altura_grupo : 0);
+            const double pede = altura_fileira + (nomeia ? altura_grupo : 0);
             if (usada + pede > altura) break;
             if (pinta) {
                 const bool vem_de_antes = i > comeco && mesmo_grupo(i, i - 1);
                 if (nomeia)
                     d.folhas.escreve(valor(i, b.grupo) + (vem_de_antes ? continua : ""), x,
                                      d.y + usada + altura_grupo - 2.2, largura, letra_grupo);
-                linha(i, x, d.y + usada + pede - altura_linha);
+                linha(i, x, d.y + usada + pede - altura_fileira);
             }
             usada += pede;
         }
@@ -250,11 +250,11 @@ struct Jornal {
 
     // Uma seção: colunas da menor altura em que tudo cabe ou, não cabendo na folha, cheias até o fim dela.
     void secao(std::size_t comeco, std::size_t fim) const {
-        constexpr double minimo = altura_secao + altura_grupo + altura_linha + 0.1; // cabe sempre uma linha
+        constexpr double minimo = altura_secao + altura_grupo + altura_fileira + 0.1; // cabe sempre uma linha
         for (std::size_t i = comeco; i < fim;) {
             d.pede(minimo);
             if (!b.secao.empty()) d.faixa_de_titulo(valor(i, b.secao) + (i > comeco ? continua : ""));
-            double altura = altura_linha;
+            double altura = altura_fileira;
             while (altura < d.resta() && colunas_ate(i, comeco, fim, altura, false) < fim) altura += 0.2;
             altura = std::min(altura, d.resta());
             i = colunas_ate(i, comeco, fim, altura, true);

@@ -12,8 +12,6 @@ namespace verdalia {
 
 namespace {
 
-EstadoDoLaco& e = estado_do_laco;
-
 struct Ponto {
     double x = 0, y = 0;
 };

@@ -22,12 +22,12 @@ struct SoltaCursor {
 };
 
 // Os ponteiros: ou um do sistema, ou uma figura com o ponto que aponta.
-struct Desenho {
+struct DesenhoDoPonteiro {
     SDL_SystemCursor do_sistema = SDL_SYSTEM_CURSOR_ARROW;
     const char* figura = nullptr;
     int ponta_x = 0, ponta_y = 0;
 };
-const std::map<int, Desenho> desenhos = {
+const std::map<int, DesenhoDoPonteiro> desenhos = {
     {ponteiro_normal, {}},
     {ponteiro_seta, {}},
     {ponteiro_cruz, {SDL_SYSTEM_CURSOR_CROSSHAIR}},
@@ -166,12 +166,12 @@ struct Janela : Hospedeiro {
         auto& cursor = cursores[numero];
         if (!cursor) {
             const auto desenho = desenhos.find(numero);
-            cursor = cria_cursor(desenho == desenhos.end() ? Desenho{} : desenho->second);
+            cursor = cria_cursor(desenho == desenhos.end() ? DesenhoDoPonteiro{} : desenho->second);
         }
         SDL_SetCursor(cursor.get());
     }
 
-    static std::unique_ptr<SDL_Cursor, SoltaCursor> cria_cursor(const Desenho& d) {
+    static std::unique_ptr<SDL_Cursor, SoltaCursor> cria_cursor(const DesenhoDoPonteiro& d) {
         constexpr int lado = 32;
         SDL_Cursor* criado = nullptr;
         if (d.figura != nullptr) {

@@ -14,8 +14,6 @@ EstadoDoLaco estado_do_laco;
 
 namespace {
 
-EstadoDoLaco& e = estado_do_laco;
-
 constexpr std::int64_t demora_da_dica = 600;
 constexpr std::int64_t demora_do_duplo = 400; // entre os dois apertos de um clique duplo
 constexpr double folga_do_clique = 4;         // pixels lógicos que o mouse anda antes de um aperto virar arraste

@@ -48,6 +48,7 @@ struct EstadoDoLaco {
     std::deque<Evento> adiados; // chegados durante um som esperado
 };
 extern EstadoDoLaco estado_do_laco;
+inline EstadoDoLaco& e = estado_do_laco; // como o tratam as fontes que só dele falam
 
 // Esquece um controle que sai da tela.
 void esquece_controle(const Controle* c);
