@@ -35,7 +35,7 @@ template <typename... A, int (*sqlite3_io_methods::*Metodo)(sqlite3_file*, A...)
     }
 };
 
-int escreve(sqlite3_file* f, const void* dados, int quantos, sqlite3_int64 lugar) {
+int escreve_nele(sqlite3_file* f, const void* dados, int quantos, sqlite3_int64 lugar) {
     if (const int codigo = sorte(true); codigo != SQLITE_OK) return codigo;
     if (disco != nullptr) ++disco->por_descarregar;
     return de_verdade(f)->pMethods->xWrite(de_verdade(f), dados, quantos, lugar);
@@ -53,7 +53,7 @@ const sqlite3_io_methods metodos = [] {
     m.iVersion = 1;
     m.xClose = Adiante<&M::xClose>::chama;
     m.xRead = Adiante<&M::xRead>::ou_falha;
-    m.xWrite = escreve;
+    m.xWrite = escreve_nele;
     m.xTruncate = Adiante<&M::xTruncate>::ou_falha;
     m.xSync = descarrega;
     m.xFileSize = Adiante<&M::xFileSize>::ou_falha;
