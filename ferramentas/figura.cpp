@@ -1,6 +1,6 @@
-// Desenha as figuras que saem de uma fonte: figura FONTE.svg e, para cada uma, LARGURA ALTURA QUADRO ESTILO.css DESTINO,
-// em pixels lógicos; o desenho sai com o dobro deles. QUADRO e ESTILO são "-" quando não se usam. Sai com 1 e diz por
-// quê quando não pôde.
+// Desenha as figuras que saem de uma fonte: figura FONTE.svg e, para cada uma, LARGURA ALTURA QUADRO ESTILO.css
+// DESTINO, em pixels lógicos; o desenho sai com o dobro deles. QUADRO e ESTILO são "-" quando não se usam. Sai com 1 e
+// diz por quê quando não pôde.
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <librsvg/rsvg.h>
 

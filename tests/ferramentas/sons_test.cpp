@@ -249,6 +249,7 @@ TEST(Sons, FeitosDeNovoSaoOsMesmosBytes) {
     const fs::path pasta = mkdtemp(modelo.data());
     const auto faz_de_novo = [&pasta](const std::string& tipo, const std::string& nome, const std::string& resto) {
         const std::string destino = pasta / nome;
+        fs::create_directories(fs::path(destino).parent_path());
         const std::string comando = (projeto / "ferramentas/som").string() + " " + tipo + " " + destino + " " + resto;
         EXPECT_EQ(std::system(comando.c_str()), 0) << comando;
         EXPECT_TRUE(le_arquivo(destino, maximo) == le_arquivo(programa / nome, maximo)) << nome;

@@ -9,7 +9,7 @@ namespace verdalia {
 namespace {
 
 // `acaso` na forma que a biblioteca pede. Sem gerador com semente: há mais arrumações do que sementes.
-struct Fonte {
+struct FonteDeSorte {
     using result_type = std::uint32_t;
     static constexpr result_type min() { return 0; }
     static constexpr result_type max() { return std::numeric_limits<result_type>::max(); }
@@ -26,7 +26,7 @@ std::uint32_t acaso_do_sistema() {
 Baralho baralha() {
     Baralho cartas;
     for (int i = 0; i < n_cartas; ++i) cartas[i] = static_cast<std::int16_t>(i / 2 + 1);
-    std::shuffle(cartas.begin(), cartas.end(), Fonte{});
+    std::shuffle(cartas.begin(), cartas.end(), FonteDeSorte{});
     return cartas;
 }
 
