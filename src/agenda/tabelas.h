@@ -78,7 +78,7 @@ inline constexpr Lugar lugares[] = {
     {"pic_semen", -1, 30, 122, 80, 62, "", "Ir para a Sementeira"},
     {"pic_horta", -1, 30, 190, 80, 62, "", "Ir para a Horta"},
     {"pic_imp", -1, 30, 258, 80, 62, "", "Imprimir relatórios"},
-    {"faixa", -1, 24, 326, 92, 54},
+    {"faixa", -1, 24, 324, 92, 62},
     {"lbl_tempo", -1, 32, 386, 76, 22, "Tempos", "Sobre os Tempos"},
     {"previsao", -1, 32, 414, 70, 68, "", "Previsão"},
     {"terra", -1, 84, 408, 23, 19, "", "Marcador da semana da previsão"},
