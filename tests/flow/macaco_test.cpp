@@ -44,15 +44,20 @@ struct Macaco : Hospedeiro {
     void troca_tela_cheia() override {}
     int toca(const std::string&) override { return um_em(3) ? 300 : 0; }
 
-    // A horta verdadeira guarda-se enquanto não há previsão, e confere-se quando ela acaba.
+    // Os canteiros e as leiras: o pedido não é da previsão, e o que nela se muda na feira fica.
+    static std::string terra() {
+        const std::string tudo = Partida::horta();
+        return tudo.substr(0, tudo.rfind(';'));
+    }
+    // A terra verdadeira guarda-se enquanto não há previsão, e confere-se quando ela acaba.
     void confere() {
         const std::string quebrado = invariante_quebrado();
         if (previsao_ligada() != prevendo) {
-            if (prevendo && Partida::horta() != verdadeira && !falhou)
+            if (prevendo && terra() != verdadeira && !falhou)
                 falhou = true, erro = "a previsão mexeu na horta";
             prevendo = previsao_ligada();
         }
-        if (!prevendo) verdadeira = Partida::horta();
+        if (!prevendo) verdadeira = terra();
         if (!quebrado.empty() && !falhou) falhou = true, erro = quebrado;
         if (falhou) restam = 0;
     }
