@@ -131,5 +131,5 @@ TEST_F(Descuido, OndeSePerdeAlgoEnterNaoConfirma) {
     EXPECT_EQ(st_cod_cult[11], cult_nenhuma);
 }
 
- // namespace
+} // namespace
 } // namespace verdalia
