@@ -128,7 +128,7 @@ TEST_F(Feira, PregaoComecaLogoOuDepoisDaTrilhaEPassaPorTodasAsVerduras) {
     // A pergunta da saída cala os pregões; quem desiste os ouve de novo.
     roteiro.clica("Label3").esta_em("form_ok_nao").espera_ms(20000);
     ouviu({dir_audio + "\\s1.wav"}).pergunta("Saindo ...|Deseja sair", false).esta_em("feira_horta");
-    ouviu({dir_audio + "\\s3.wav"}).espera_ms(2500);
+    ouviu({dir_audio + "\\s3.wav"}).espera_ms(2510);
     ouviu_pregoes(1);
     abre();
 }
