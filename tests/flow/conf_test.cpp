@@ -95,13 +95,5 @@ TEST_F(Opcoes, SoSeGuardaUnidadeComFigurasEElaEOferecidaDepois) {
     joga();
 }
 
-TEST_F(Opcoes, InterrogacaoGiraELevaAAjudaDoPrograma) {
-    roteiro.clica("interroga").espera_ms(650).esta_em("conf").espera_ms(100).confere([] {
-        EXPECT_EQ(topico_help + tela_origem, "PGMPGM");
-        EXPECT_TRUE(carregada(TelaId::conf) && tela_ativa()->nome == "help");
-    });
-    laco();
-}
-
 } // namespace
 } // namespace verdalia
