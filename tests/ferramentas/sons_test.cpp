@@ -1,9 +1,5 @@
-// Os sons construídos, ouvidos por medidas: estão todos lá, no tamanho e no volume certos, sem estalo, e fazem-se
-// iguais de novo.
-// iguais de novo.
+// Os sons construídos, ouvidos por medidas: estão todos lá, no tamanho e no volume certos, sem estalo.
 #include <gtest/gtest.h>
-
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -22,13 +18,7 @@ namespace {
 
 const fs::path projeto = VERDALIA_PROJETO, programa = VERDALIA_PROGRAMA;
 constexpr std::array sotaques = {"correto", "caipira", "ingles"};
-constexpr double taxa = 22050;
 constexpr std::size_t maximo = 1 << 24; // de um arquivo lido
-
-// Os nomes das verduras, que se ouvem a cada arraste, são mais curtos que as frases.
-const std::set<std::string> nomes = {"alface",   "chicoria", "cheiro",   "agriao", "couve",    "espinafr", "quiabo",
-                                     "rucula",   "cenoura",  "beterrab", "nabo",   "rabanete", "tomate",   "pimentao",
-                                     "beringel", "repolho",  "brocolis", "cflor",  "vagem",    "pepino",   "alho"};
 
 using Amostras = std::vector<double>; // de -1 a 1
 
@@ -53,7 +43,7 @@ double em_db(double fracao) {
 }
 
 double segundos(const Amostras& som) {
-    return double(som.size()) / taxa;
+    return double(som.size()) / 22050;
 }
 
 double pico(const Amostras& som) {
@@ -72,14 +62,12 @@ double volume(const Amostras& som) {
 std::map<std::string, std::vector<std::string>> le_tabela(const fs::path& tabela) {
     std::map<std::string, std::vector<std::string>> linhas;
     std::istringstream texto(le_arquivo(tabela, maximo));
-    for (std::string linha; std::getline(texto, linha);) {
+    for (std::string linha, nome, campo; std::getline(texto, linha);) {
         if (linha.empty() || linha[0] == '#') continue;
         std::istringstream resto(linha);
-        std::string nome, campo;
         std::getline(resto, nome, '\t');
-        std::vector<std::string> campos;
-        while (std::getline(resto, campo, '\t')) campos.push_back(campo);
-        EXPECT_TRUE(linhas.emplace(nome, campos).second) << tabela << ": " << nome << " repetido";
+        EXPECT_FALSE(linhas.contains(nome)) << tabela << ": " << nome << " repetido";
+        while (std::getline(resto, campo, '\t')) linhas[nome].push_back(campo);
     }
     return linhas;
 }
@@ -98,17 +86,13 @@ TEST(Sons, OQueOProgramaTocaExisteEmTodosOsSotaques) {
             pedidos.insert((*i)[1]);
     }
     EXPECT_GT(pedidos.size(), 60U);
-    for (const std::string& nome : pedidos) {
-        const bool de_todos = std::all_of(sotaques.begin(), sotaques.end(), [&nome](const char* sotaque) {
-            return fs::exists(programa / "audio" / sotaque / nome);
-        });
-        EXPECT_TRUE(de_todos || fs::exists(programa / nome)) << nome;
-    }
+    for (const std::string& nome : pedidos)
+        for (const char* sotaque : sotaques)
+            EXPECT_TRUE(fs::exists(programa / "audio" / sotaque / nome) || fs::exists(programa / nome)) << nome;
     for (const char* sotaque : sotaques) {
         const auto falas = le_tabela(projeto / "audio/falas" / (std::string(sotaque) + ".tsv"));
         EXPECT_EQ(falas.size(), 80U) << sotaque;
         for (const auto& [nome, campos] : falas) EXPECT_TRUE(fs::exists(clipe(sotaque, nome))) << sotaque << nome;
-        for (const std::string& nome : nomes) EXPECT_TRUE(falas.count(nome)) << sotaque << nome;
     }
 }
 
@@ -120,7 +104,7 @@ TEST(Sons, CadaFalaTemOSeuTamanhoEOVolumeDeTodas) {
             const Amostras som = le_wav(clipe(sotaque, nome));
             // O pregão seguinte vem em 2,5 s e cortaria o anterior.
             const bool eh_pregao = nome.find("-vz") != std::string::npos;
-            EXPECT_LT(segundos(som), nomes.count(nome) ? 1.5 : eh_pregao ? 2.5 : 4);
+            EXPECT_LT(segundos(som), eh_pregao ? 2.5 : 4);
             EXPECT_GT(segundos(som), 0.4);
             EXPECT_LT(pico(som), -1);
             EXPECT_NEAR(volume(som), -19.5, 2);
@@ -148,29 +132,8 @@ TEST(Sons, ATrilhaDuraAApresentacaoESomeNoFimEOsEfeitosSaoCurtos) {
         const Amostras som = le_wav(programa / (nome + ".wav"));
         EXPECT_LT(segundos(som), dura);
         EXPECT_LT(em_db(std::abs(som.back())), -50);
-        EXPECT_EQ(pico(som) > -12, nome != "silencio") << pico(som);
-        EXPECT_TRUE(pico(som) < -1);
+        EXPECT_TRUE((pico(som) > -12) == (nome != "silencio") && pico(som) < -1) << pico(som);
     }
-}
-
-TEST(Sons, FeitosDeNovoSaoOsMesmosBytes) {
-    std::string modelo = fs::temp_directory_path() / "sons-XXXXXX";
-    const fs::path pasta = mkdtemp(modelo.data());
-    const auto faz_de_novo = [&pasta](const std::string& tipo, const std::string& nome, const std::string& resto) {
-        const std::string destino = pasta / nome;
-        fs::create_directories(fs::path(destino).parent_path());
-        const std::string comando = (projeto / "ferramentas/som").string() + " " + tipo + " " + destino + " " + resto;
-        EXPECT_EQ(std::system(comando.c_str()), 0) << comando;
-        EXPECT_TRUE(le_arquivo(destino, maximo) == le_arquivo(programa / nome, maximo)) << nome;
-    };
-    for (const std::string sotaque : {"caipira", "ingles"}) {
-        const auto f = le_tabela(projeto / "audio/falas" / (sotaque + ".tsv"))["alf-vz"];
-        faz_de_novo("fala", "audio/" + sotaque + "/alf-vz.wav",
-                    sotaque + " " + f.at(0) + " " + f.at(1) + " \"" + f.at(2) + "\"");
-    }
-    faz_de_novo("efeito", "voup.wav", "\"" + le_tabela(projeto / "audio/efeitos.tsv")["voup"].at(0) + "\"");
-    faz_de_novo("trilha", "fefimc.wav", projeto / "audio/trilhas/fefimc.abc");
-    fs::remove_all(pasta);
 }
 
 } // namespace

@@ -17,19 +17,6 @@ struct Descuido : PartidaNaTela {
     }
 };
 
-TEST_F(Descuido, EnterRespondeSimAindaQueAPerguntaAnteriorTenhaSidoNao) {
-    abre<INTRONEW>(TelaId::INTRONEW);
-    roteiro.clica("saida").espera_ms(1050).clica("opções", 1);
-    roteiro.clica("saida").espera_ms(1050).tecla(SDLK_s).confere([] {
-        EXPECT_EQ(tela_ativa()->titulo, "Gravar alterações");
-        st_cod_cult[0] = cult_nabo;
-    });
-    roteiro.tecla(SDLK_RETURN);
-    laco();
-    le_canteiros();
-    EXPECT_EQ(st_cod_cult[0], cult_nabo);
-}
-
 TEST_F(Descuido, TelaQueSaiEsperaODialogoFecharENaoParaPorUmaMarca) {
     planta(12, cult_alface, 2);
     abre_horta();

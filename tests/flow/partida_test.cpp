@@ -46,10 +46,9 @@ TEST_F(Centro, HortaGuardadaEnvelheceOsDomingosQuePassaram) {
         EXPECT_EQ(le_data_semana(), hoje() - semanas_3);
     });
     roteiro.quadro("Nova Semana").esta_em("INTRONEW").confere([] {
-        EXPECT_EQ(st_cod_cult[37], cult_vago); // a alface acabou na segunda semana
-        EXPECT_EQ(st_last_i_cu[37], cult_alface);
-        EXPECT_EQ(st_last_last_i_cu[37], cult_cenoura);
-        EXPECT_EQ(sem_cod_cult[3], cult_vago); // as mudas se perderam
+        // A alface acabou na segunda semana, e as mudas se perderam.
+        EXPECT_EQ((std::vector{st_cod_cult[37], st_last_i_cu[37], st_last_last_i_cu[37], sem_cod_cult[3]}),
+                  (std::vector{cult_vago, cult_alface, cult_cenoura, cult_vago}));
         EXPECT_TRUE(auto_abastecido);
         EXPECT_EQ(le_data_semana(), hoje());
     });
@@ -66,11 +65,10 @@ TEST_F(Centro, HortaGuardadaEnvelheceOsDomingosQuePassaram) {
 
 TEST_F(Centro, PortaSemGravacaoESemTrabalhoAcabaEmSilencio) {
     guarda_horta(hoje());
-    entra().confere([] { esvazia(); });
-    // O fecho da janela é a porta; o segundo pedido, no meio da pergunta, não responde por ninguém; Esc é "Não".
-    roteiro.fecha_janela().esta_em("form_ok_nao").tecla(SDLK_ESCAPE).esta_em("INTRONEW");
-    roteiro.fecha_janela().fecha_janela().esta_em("form_ok_nao");
-    roteiro.teclas({SDLK_s, SDLK_n}).acabou();
+    // Pelo teclado; o segundo fecho da janela, no meio da pergunta, não responde por ninguém; Esc é "Não".
+    roteiro.tecla(SDLK_RETURN).esta_em("INTRONEW").confere([] { esvazia(); }).teclas({SDLK_TAB, SDLK_UP, SDLK_SPACE});
+    roteiro.espera_ms(1050).esta_em("form_ok_nao").tecla(SDLK_ESCAPE).esta_em("INTRONEW");
+    roteiro.fecha_janela().fecha_janela().esta_em("form_ok_nao").teclas({SDLK_s, SDLK_n}).acabou();
     joga();
     le_canteiros();
     EXPECT_EQ(st_cod_cult[37], cult_alface);
@@ -81,14 +79,12 @@ TEST_F(Centro, BancoEstragadoDeixaEscolherACopiaDaHorta) {
     guarda_copia();
     escreve(arquivo, "isto não é um banco");
     const auto guardado = jogador / "hortas00 2026-03-04.mdb";
-    // Quem fecha a janela, ou desliga o computador, não respondeu: a pergunta volta.
-    roteiro.esta_em("form_ok_nao").fecha_janela();
-    joga();
-    recomeca_laco();
-    roteiro.esta_em("form_ok_nao").encerra();
-    joga();
-    recomeca_laco();
-    EXPECT_EQ(conteudo(arquivo), "isto não é um banco");
+    for (const bool fecha : {true, false}) { // quem fecha a janela, ou desliga o computador, não respondeu
+        roteiro.esta_em("form_ok_nao");
+        fecha ? roteiro.fecha_janela() : roteiro.encerra();
+        joga();
+        recomeca_laco();
+    }
     EXPECT_FALSE(std::filesystem::exists(guardado));
     roteiro.pergunta("Atenção ...|O arquivo da horta, \"hortas00.mdb\", está danificado. Há uma cópia da horta como "
                      "estava em 4/3/2026. Deseja continuar com ela ?",
@@ -164,25 +160,6 @@ TEST_F(Centro, MeiaNoiteDeDomingoComOJogoAbertoContaUmaVezSo) {
     entra().quadro("Nova Semana").esta_em("INTRONEW");
     joga();
     EXPECT_EQ(st_idade[5], 2);
-}
-
-TEST_F(Centro, ViagensFalamAteOFimEAUltimaEscolhaVence) {
-    roteiro.duracao_dos_sons = 800;
-    entra().confere([] { som_ligado = true; }).clica("pic_agenda").espera_ms(500).clica("pic_feira");
-    roteiro.espera_ms(1000).confere([this] { EXPECT_TRUE(roteiro.tocados.empty()); }).espera_ms(150);
-    roteiro.espera_ms(800).esta_em("feira_horta");
-    joga();
-    EXPECT_EQ(roteiro.tocados, (std::vector<std::string>{dir_audio + "\\vamfei.wav"}));
-}
-
-TEST_F(Centro, SoOTecladoEntraLeUmaPaginaESai) {
-    roteiro.tecla(SDLK_RETURN).esta_em("INTRONEW").teclas({SDLK_TAB, SDLK_RIGHT, SDLK_DOWN}).confere([] {
-        EXPECT_EQ(tela_ativa()->foco->nome, "Label1");
-        EXPECT_EQ(tela_ativa()->foco->indice, 3); // a da fileira de baixo
-    });
-    roteiro.tecla(SDLK_RETURN).esta_em("ok_help").tecla(SDLK_ESCAPE).esta_em("INTRONEW");
-    roteiro.teclas({SDLK_LEFT, SDLK_UP, SDLK_UP, SDLK_SPACE}).espera_ms(1050).teclas({SDLK_s, SDLK_n}).acabou();
-    joga();
 }
 
 } // namespace

@@ -70,8 +70,7 @@ TEST_F(Horta, RegraDeRotacaoPerguntaPorCadaMemoriaEAUltimaRespostaDecide) {
                  {cult_alface, cult_chicoria, {false, true}, true}};
     semeia(4, cult_alface, 4);
     auto& h = abre();
-    int i = 0;
-    for (const auto& caso : casos) {
+    for (int i = 0; const auto& caso : casos) {
         const std::int16_t antes = i % 2 == 0 ? cult_nenhuma : cult_vago;
         st_cod_cult[i] = antes;
         st_last_i_cu[i] = caso.ultima;
@@ -84,8 +83,7 @@ TEST_F(Horta, RegraDeRotacaoPerguntaPorCadaMemoriaEAUltimaRespostaDecide) {
             roteiro.clica("opções", sim ? 0 : 1);
         }
         roteiro.esta_em("trabalhando_na_horta").confere([&, i, antes] {
-            EXPECT_EQ(st_cod_cult[i], caso.planta ? cult_alface : antes) << i;
-            EXPECT_EQ(h.cant.existe(i), caso.planta) << i;
+            EXPECT_TRUE(st_cod_cult[i] == (caso.planta ? cult_alface : antes) && h.cant.existe(i) == caso.planta) << i;
         });
         ++i;
     }

@@ -3,7 +3,6 @@
 #include "memory/regras/baralho.h"
 #include "memory/regras/ranking.h"
 
-#include <map>
 #include <random>
 
 namespace verdalia {
@@ -54,27 +53,9 @@ TEST_F(Ranking, TemposLongosELinhasEstranhasNaoAtrapalham) {
     consulta(gm, "INSERT INTO gm (peq_gra, tipo, valor, nome) VALUES ('F','2','00050','a'), ('P','1','00:01','b'), "
                  "('F','1',' 02:00','c'), ('F','1',null,'d'), ('F','1','01:00','e')");
     Data1.Refresh();
-    EXPECT_TRUE(bate_tempo("1:30") && pos_tempo == 3); // depois da linha sem valor e de 01:00; a de outro tamanho não conta
+    EXPECT_TRUE(bate_tempo("1:30") && pos_tempo == 3); // depois da linha sem valor e de 01:00
     zera_ranking();
     EXPECT_EQ(no_disco(), "1|00:01|b\n");
-}
-
-TEST_F(Ranking, ArquivoPresoNaoMudaNadaEOEstragadoEPostoDeLado) {
-    tempos({"1:00"});
-    {
-        const BancoPreso outro(gm);
-        EXPECT_THROW(grava_tempo("0:50"), ErroBanco);
-        EXPECT_THROW(prepara_ranking(), ErroBanco);
-    }
-    EXPECT_EQ(Data1.linhas.size(), 1U);
-    EXPECT_EQ(no_disco(), "1|01:00|1\n");
-
-    escreve(gm, "isto não é um banco");
-    prepara_ranking();
-    ASSERT_EQ(avisos_do_banco.size(), 1U);
-    EXPECT_NE(avisos_do_banco[0].find("gm 2026-03-04.mdb"), std::string::npos);
-    EXPECT_EQ(conteudo(jogador / "gm 2026-03-04.mdb"), "isto não é um banco");
-    EXPECT_EQ(no_disco(), "");
 }
 
 // Cada lugar recebe cada figura tantas vezes quanto as outras. Com 2000 baralhos, o desvio padrão de uma casa é 14.
@@ -83,14 +64,10 @@ TEST(Baralho, TemDezoitoParesETodaCasaRecebeTodaFigura) {
     constexpr int vezes = 2000;
     int recebeu[n_cartas][n_pares + 1] = {};
     for (int v = 0; v < vezes; ++v) {
-        const Baralho cartas = baralha();
-        std::map<int, int> quantas;
-        for (int i = 0; i < n_cartas; ++i) {
-            ++quantas[cartas[i]];
-            ++recebeu[i][cartas[i]];
-        }
-        ASSERT_EQ(quantas.size(), std::size_t{n_pares});
-        for (const auto& [carta, n] : quantas) ASSERT_EQ(n, 2) << carta;
+        Baralho cartas = baralha();
+        for (int i = 0; i < n_cartas; ++i) ++recebeu[i][cartas[i]];
+        std::sort(cartas.begin(), cartas.end());
+        for (int i = 0; i < n_cartas; ++i) ASSERT_EQ(cartas[i], i / 2 + 1);
     }
     for (const auto& casa : recebeu)
         for (int f = 1; f <= n_pares; ++f) EXPECT_NEAR(casa[f], 2.0 * vezes / n_cartas, 55);
