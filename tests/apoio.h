@@ -25,8 +25,6 @@ constexpr Dia dia(int ano, unsigned mes, unsigned dia_do_mes) {
 // Toma o lugar do relógio do sistema enquanto existe.
 struct RelogioDeTeste : Relogio {
     RelogioDeTeste() : anterior(relogio) { relogio = this; }
-    RelogioDeTeste(const RelogioDeTeste&) = delete;
-    RelogioDeTeste& operator=(const RelogioDeTeste&) = delete;
     ~RelogioDeTeste() override { relogio = anterior; }
 
     Momento agora() override { return momento; }
@@ -53,8 +51,6 @@ struct PastaTemporaria {
         if (mkdtemp(modelo.data()) == nullptr) throw std::runtime_error("mkdtemp");
         raiz = modelo;
     }
-    PastaTemporaria(const PastaTemporaria&) = delete;
-    PastaTemporaria& operator=(const PastaTemporaria&) = delete;
     ~PastaTemporaria() {
         std::error_code erro;
         std::filesystem::remove_all(raiz, erro);
@@ -95,8 +91,6 @@ struct BancoPreso {
         EXPECT_EQ(sqlite3_open(arquivo.c_str(), &outro), SQLITE_OK);
         EXPECT_EQ(sqlite3_exec(outro, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
     }
-    BancoPreso(const BancoPreso&) = delete;
-    BancoPreso& operator=(const BancoPreso&) = delete;
     ~BancoPreso() { sqlite3_close(outro); }
 
     sqlite3* outro = nullptr;
@@ -149,6 +143,13 @@ struct Partida : testing::Test {
             texto << sem_nome[i] << ',' << sem_cod_cult[i] << ',' << sem_idade[i] << ',' << sem_check[i] << ';';
         for (const int v : seq_pedido) texto << v << ' ';
         return texto.str();
+    }
+
+    // O mesmo sem os nomes, que um lugar esvaziado pelo tempo só volta a ter quando é lido.
+    static std::string sem_nomes() {
+        st_nome.fill("");
+        sem_nome.fill("");
+        return horta();
     }
 
     static void planta(int canteiro, std::int16_t cultura, std::int16_t idade) {

@@ -19,8 +19,6 @@ struct Roteiro : Hospedeiro {
                                                     SDL_PIXELFORMAT_XRGB8888));
         hospedeiro = this;
     }
-    Roteiro(const Roteiro&) = delete;
-    Roteiro& operator=(const Roteiro&) = delete;
     ~Roteiro() override { hospedeiro = nullptr; }
 
     // O que o jogador faz, na ordem. Um controle é procurado na tela ativa quando chega a vez do passo.
@@ -75,7 +73,6 @@ struct Roteiro : Hospedeiro {
     }
     Roteiro& fecha_janela() { return so_um(Evento::fecha); }
     Roteiro& encerra() { return so_um(Evento::encerra); }
-    Roteiro& descobre_janela() { return so_um(Evento::janela); }
     Roteiro& espera_ms(std::int64_t ms) {
         return passo([=, this] { acorda_em = tempo.ms + ms; });
     }

@@ -13,17 +13,17 @@ struct Agenda : PartidaNaTela {
     Agenda() { prepara_banco(); }
     age& abre() { return entra_em<age>(TelaId::age); }
     // As linhas à vista de uma lista: "Alface|A 1|; Couve||B 2".
-    static std::string lista(age& a, Lista l) {
+    static std::string lista(age& a, int l) {
         ListaNaTela& t = *a.na_tela[l];
+        const auto texto = [](auto& coluna, int i) { return "|" + (coluna.existe(i) ? coluna(i).texto : ""); };
         std::string s;
         for (int i = 0; i < 10 && !t.cultura(i).texto.empty(); ++i)
-            s += (i > 0 ? "; " : "") + t.cultura(i).texto + "|" + (t.aonde.existe(i) ? t.aonde(i).texto : "") + "|" +
-                 (t.aonde_sem.existe(i) ? t.aonde_sem(i).texto : "");
+            s += (i > 0 ? "; " : "") + t.cultura(i).texto + texto(t.aonde, i) + texto(t.aonde_sem, i);
         return s;
     }
     static std::string todas(age& a) {
         std::string s;
-        for (int l = 0; l < n_listas; ++l) s += lista(a, static_cast<Lista>(l)) + "/";
+        for (int l = 0; l < n_listas; ++l) s += lista(a, l) + "/";
         return s;
     }
 };
@@ -52,20 +52,20 @@ TEST_F(Agenda, ListaCompridaRolaComARodaEComOTeclado) {
     planta(50, cult_couve, 3);
     auto& a = abre();
     BarraRolagem& barra = a.na_tela[r_li]->barra;
-    EXPECT_TRUE(barra.visivel && barra.ativo && !a.na_tela[r_tr]->barra.visivel);
-    EXPECT_EQ(barra.maximo, 13);
-    EXPECT_TRUE(lista(a, r_li).starts_with("Alface|A 1|"));
+    EXPECT_TRUE(barra.visivel && !a.na_tela[r_tr]->barra.visivel && lista(a, r_li).starts_with("Alface|A 1|"));
     roteiro.confere([&] { a.foco = &barra; }).teclas({SDLK_TAB, SDLK_DOWN}).confere([&] {
         EXPECT_TRUE(lista(a, r_li).starts_with("Alface|A 2|") && lista(a, r_li).ends_with("Alface|B 1|"));
     });
     roteiro.tecla(SDLK_END).confere([&] { EXPECT_TRUE(lista(a, r_li).ends_with("Couve|F 1|")); });
-    roteiro.aponta(660, 200).roda(3).confere([&] { EXPECT_EQ(barra.valor, 10); });
-    // Na semana seguinte a lista é outra, e recomeça do alto, sem barra.
-    roteiro.clica("previsao").confere([&] {
-        EXPECT_EQ(std::to_string(barra.valor) + lista(a, r_li), "0");
-        EXPECT_FALSE(barra.visivel);
-    });
+    // O polegar, a página e a ponta, com o mouse.
+    const Retangulo r = barra.lugar();
+    const double x = a.origem_x() + r.x + r.largura / 2, y = a.origem_y() + r.y;
+    roteiro.arrasta_ponto(x, y + r.altura * 0.7, x, 0).confere([&] { EXPECT_EQ(barra.valor, 0); });
+    roteiro.clica_em(x, y + r.altura - 30).confere([&] { EXPECT_EQ(barra.valor, 10); }).tecla(SDLK_END);
+    roteiro.aponta(660, 200).roda(3).confere([&] { EXPECT_EQ(barra.valor, 10); }).clica("previsao");
     laco();
+    // Na semana seguinte a lista é outra, e recomeça do alto, sem barra.
+    EXPECT_EQ(std::to_string(barra.valor) + lista(a, r_li) + (barra.visivel ? "barra" : ""), "0");
 }
 
 TEST_F(Agenda, PrevisaoVaiEVoltaComAsListasEAsTabelas) {
@@ -76,14 +76,11 @@ TEST_F(Agenda, PrevisaoVaiEVoltaComAsListasEAsTabelas) {
         return consulta(arquivo, "SELECT DISTINCT sem FROM relat UNION SELECT mod FROM rr");
     };
     const std::string de_hoje = todas(a) + horta() + tabelas();
-    roteiro.clica("previsao").confere([&] {
-        EXPECT_EQ(lista(a, r_cop) + lista(a, r_cof) + a.terra.texto, "Alface|A 1|Rabanete|A 2|11");
-        EXPECT_EQ(tabelas(), "11\n");
-    });
-    roteiro.espera_ms(500).clica("previsao").confere([&] {
-        EXPECT_EQ(lista(a, r_cof), "Alface|A 1|");
-        EXPECT_EQ(tabelas(), "12\nA 2\n");
-    });
+    const auto mostra = [&](const char* esperado) {
+        return [&, esperado] { EXPECT_EQ(lista(a, r_cop) + lista(a, r_cof) + a.terra.texto + tabelas(), esperado); };
+    };
+    roteiro.clica("previsao").confere(mostra("Alface|A 1|Rabanete|A 2|1111\n")).espera_ms(500);
+    roteiro.clica("previsao").confere(mostra("Alface|A 1|1212\nA 2\n"));
     roteiro.clica("tempo_real").confere([&] { EXPECT_EQ(todas(a) + horta() + tabelas(), de_hoje); });
     laco();
 }
@@ -115,7 +112,6 @@ TEST_F(Agenda, CadaTarefaFalaEDaASuaVolta) {
             if (ha) t.cultura > 0 ? planta(0, t.cultura, t.idade) : semeia(0, cult_alface, 0);
             auto& a = abre();
             const Figura& f = a.na_tela[t.lista]->trato;
-            EXPECT_EQ(nome(f.figura), t.repouso);
             roteiro.tocados.clear();
             // A volta começa e acaba no repouso.
             roteiro.clica(t.figura).espera_ms(105).confere([&] { EXPECT_EQ(nome(f.figura), t.repouso); });
@@ -126,25 +122,6 @@ TEST_F(Agenda, CadaTarefaFalaEDaASuaVolta) {
         }
 }
 
-TEST_F(Agenda, ApresentacaoGiraAsOitoEVoltaDepoisDeUmDialogo) {
-    musica_ligada = true;
-    trilha_age = "\\agfimc.wav";
-    auto& a = abre();
-    const auto figuras = [&a] {
-        std::string s;
-        for (const auto& l : a.na_tela) s += nome(l->trato.figura).substr(0, 5) + " ";
-        return s;
-    };
-    const std::string repouso = figuras();
-    roteiro.espera_ms(105).confere([&] { EXPECT_EQ(figuras(), "pla01 sem00 tra00 li00. des00 amo00 cop00 cof00 "); });
-    roteiro.clica("limp").confere([&] { EXPECT_EQ(figuras() + (a.animacao.passeio ? "gira" : ""), repouso); });
-    // O aviso que se fecha devolve a apresentação; o caminho da horta gasta-lhe os quadros e sai logo.
-    roteiro.clica("lbl_tempo").quadro("Tempo Real").confere([&] { EXPECT_TRUE(a.animacao.passeio); });
-    roteiro.clica("pic_horta").espera_ms(450).esta_em("trabalhando_na_horta");
-    laco();
-    EXPECT_EQ(std::count(roteiro.tocados.begin(), roteiro.tocados.end(), trilha_age), 2);
-}
-
 TEST_F(Agenda, PerguntaAntesDeImprimirEDizOndeFicou) {
     const std::string caminho = std::getenv("PATH");
     setenv("PATH", "/nao/ha/nada", 1);
@@ -153,10 +130,8 @@ TEST_F(Agenda, PerguntaAntesDeImprimirEDizOndeFicou) {
     const auto existe = [this](const char* nome) { return std::filesystem::exists(jogador / "relatorios" / nome); };
     roteiro.clica("pic_imp").espera_ms(850).pergunta("Impressão|Deseja imprimir o relatório da semana 10 ?", false);
     roteiro.esta_em("age").confere([&] { EXPECT_FALSE(existe("")); });
-    roteiro.clica("pic_imp").espera_ms(850).clica("opções", 0).esta_em("ok").confere([] {
-        for (const char* parte : {"Não há impressora", "Rotação: "})
-            EXPECT_NE(msg_texto.find(parte), std::string::npos) << msg_texto;
-    });
+    roteiro.clica("pic_imp").espera_ms(850).clica("opções", 0).esta_em("ok").confere(
+        [] { EXPECT_EQ(casa(msg_texto, "Não há impressora.*Rotação: ").size(), 1U) << msg_texto; });
     roteiro.clica("opções").esta_em("age");
     laco();
     setenv("PATH", caminho.c_str(), 1);

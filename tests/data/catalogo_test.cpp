@@ -1,6 +1,5 @@
 #include "apoio.h"
 
-#include <map>
 #include <set>
 
 namespace verdalia {
@@ -34,22 +33,6 @@ TEST_F(Catalogo, OQueValeParaTodaCultura) {
     for (const std::int16_t fora : {cult_nenhuma, cult_vago, std::int16_t{22}, std::int16_t{-300}})
         EXPECT_EQ(oper_canteiro(fora, 0) + oper_leira(fora, 0), "") << fora;
     EXPECT_EQ(oper_canteiro(cult_alface, -1), "");
-}
-
-// Quantas semanas de cada trato há no calendário inteiro: uma faixa errada muda a conta.
-TEST_F(Catalogo, ContaDosTratos) {
-    std::map<std::string, int> horta, sementeira;
-    for (std::int16_t c = 1; c <= n_culturas; ++c)
-        for (std::int16_t idade = 0; idade < 30; ++idade) {
-            ++horta[oper_canteiro(c, idade)];
-            ++sementeira[oper_leira(c, idade)];
-        }
-    horta.erase("");
-    sementeira.erase("");
-    EXPECT_EQ(horta,
-              (std::map<std::string, int>{
-                  {"AM", 23}, {"COF", 21}, {"COP", 105}, {"DES", 8}, {"LI", 15}, {"PLD", 8}, {"REP", 9}, {"TR", 13}}));
-    EXPECT_EQ(sementeira, (std::map<std::string, int>{{"DES", 9}, {"LI", 13}, {"PLS", 13}, {"TR", 13}}));
 }
 
 } // namespace verdalia

@@ -39,20 +39,18 @@ TEST_F(Encerra, NaoEsperaQueAVozAcabe) {
     EXPECT_EQ(idade_gravada(), 3);
 }
 
-TEST_F(Encerra, AntesDaPrimeiraCargaNaoHaOQueGravar) {
+TEST_F(Encerra, AntesDaPrimeiraCargaOuQuandoSeDisseQueNaoNadaSeGrava) {
     grava_semana(hoje());
     esvazia();
-    roteiro.esta_em("Conf_cd").encerra().acabou();
+    roteiro.esta_em("Conf_cd").encerra();
     joga();
     EXPECT_EQ(idade_gravada(), 3);
-}
-
-TEST_F(Encerra, QuemDisseQueNaoSalvaNaoESalvo) {
-    roteiro.fecha_janela().teclas({SDLK_s, SDLK_n});
-    roteiro.esta_em("ok_help").encerra().acabou();
+    recomeca_laco();
+    st_idade[0] = 5;
     seq_pedido[cult_cenoura] = 1;
+    roteiro.fecha_janela().teclas({SDLK_s, SDLK_n}).esta_em("ok_help").encerra().acabou();
     abre(TelaId::INTRONEW);
-    EXPECT_EQ(idade_gravada(), cult_nenhuma);
+    EXPECT_EQ(idade_gravada(), 3);
 }
 
 TEST_F(Encerra, OQueNaoSePodeGravarEFalha) {

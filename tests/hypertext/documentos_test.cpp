@@ -23,10 +23,9 @@ struct Documentos : PartidaNaTela {
         for (const Documento& d : documentos) {
             compila_texto(d.fonte);
             abre_hipertexto(d.aberto_como);
-            for (int i = 1; i <= n_topicos; ++i) {
-                ordem[d.topico_help].push_back(utf8_de_1252(indice[i].topico));
-                lidos[d.topico_help].emplace(ordem[d.topico_help].back(), le(indice[i].topico));
-            }
+            primeiro[d.topico_help] = utf8_de_1252(indice[1].topico);
+            for (int i = 1; i <= n_topicos; ++i)
+                lidos[d.topico_help].emplace(utf8_de_1252(indice[i].topico), le(indice[i].topico));
         }
         fecha_hipertexto();
     }
@@ -38,18 +37,13 @@ struct Documentos : PartidaNaTela {
         std::string_view resto = bytes, rotulo, alvo;
         while (!resto.empty()) {
             const std::string_view termo = proximo_termo(resto);
-            if (termo.empty()) {
-                ADD_FAILURE() << topico << ": \"#\" sem \"~\"";
+            const bool ligacao = !termo.empty() && termo[0] == '#';
+            if (termo.empty() || (ligacao && !le_ligacao(termo, rotulo, alvo))) {
+                ADD_FAILURE() << topico << ": ligação malfeita: " << termo;
                 break;
             }
-            if (termo[0] != '#') {
-                lisos += termo;
-            } else if (le_ligacao(termo, rotulo, alvo)) {
-                lisos += rotulo;
-                lido.ligacoes.emplace_back(utf8_de_1252(rotulo), utf8_de_1252(alvo));
-            } else {
-                ADD_FAILURE() << topico << ": ligação malfeita: " << termo;
-            }
+            lisos += ligacao ? rotulo : termo;
+            if (ligacao) lido.ligacoes.emplace_back(utf8_de_1252(rotulo), utf8_de_1252(alvo));
         }
         for (const auto& paragrafo : casa(utf8_de_1252(lisos), "[^\r\n]+"))
             if (const auto limpo = casa(paragrafo[0], "[^ ](.*[^ ])?"); !limpo.empty())
@@ -57,13 +51,13 @@ struct Documentos : PartidaNaTela {
         return lido;
     }
 
-    std::map<std::string, std::vector<std::string>> ordem;
+    std::map<std::string, std::string> primeiro; // tópico de cada documento
     std::map<std::string, std::map<std::string, Lido>> lidos;
 };
 
 TEST_F(Documentos, CadaLigacaoLevaAAlgumLugarEACadaTopicoSeChega) {
     for (const auto& [nome, topicos] : lidos) {
-        std::set<std::string> chega_se{ordem[nome].front()};
+        std::set<std::string> chega_se{primeiro[nome]};
         for (const auto& [topico, lido] : topicos)
             for (const auto& [rotulo, alvo] : lido.ligacoes) {
                 const std::string onde = nome + ", " + topico + ", \"" + rotulo + "\": " + alvo;
@@ -71,50 +65,20 @@ TEST_F(Documentos, CadaLigacaoLevaAAlgumLugarEACadaTopicoSeChega) {
                 const bool de_arquivo = !casa(maiusculas(alvo), "\\.(WAV|MID|BMP|JPG)$").empty();
                 EXPECT_TRUE(de_arquivo ? acha(dir_media + alvo).has_value() : topicos.contains(alvo)) << onde;
             }
-        for (const std::string& topico : ordem[nome]) EXPECT_TRUE(chega_se.contains(topico)) << nome << ", " << topico;
+        for (const auto& [topico, lido] : topicos) EXPECT_TRUE(chega_se.contains(topico)) << nome << ", " << topico;
     }
 }
 
 TEST_F(Documentos, CabemNosLimitesENenhumTopicoSeRepete) {
     for (const Documento& d : documentos) {
-        const std::string fonte = conteudo(*acha(d.fonte));
-        const std::size_t escritos = casa("\n" + fonte, "\n###").size();
-        EXPECT_EQ(ordem[d.topico_help].size(), escritos) << d.fonte;
-        EXPECT_EQ(lidos[d.topico_help].size(), escritos) << d.fonte;
-        // Os cinco bytes que o Windows-1252 deixa vagos, e os códigos que não são letra.
-        for (const char c : fonte)
-            EXPECT_TRUE((static_cast<unsigned char>(c) >= ' ' || c == '\r' || c == '\n') &&
-                        std::string_view("\x81\x8d\x8f\x90\x9d").find(c) == std::string_view::npos)
-                << d.fonte;
-    }
-    testing::internal::CaptureStderr();
-    for (const Documento& d : documentos) {
+        EXPECT_EQ(lidos[d.topico_help].size(), casa("\n" + conteudo(*acha(d.fonte)), "\n###").size()) << d.fonte;
         topico_help = d.topico_help;
         auto& h = entra_em<help>(TelaId::help);
-        for (const std::string& topico : ordem[d.topico_help]) {
+        for (const auto& [topico, lido] : lidos[d.topico_help]) {
             h.mostra_topico(cp1252_de_utf8(topico));
-            EXPECT_GT(n_linhas, 3) << d.fonte << ", " << topico;
-            EXPECT_LE(lidos[d.topico_help][topico].ligacoes.size(), std::size_t{max_ligacoes}) << topico;
+            EXPECT_TRUE(n_linhas > 3 && n_linhas < max_linhas && n_zonas_tela < max_ligacoes) << topico;
         }
     }
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-}
-
-TEST_F(Documentos, CadaTopicoIlustradoExisteComAsSuasFiguras) {
-    for (const Ilustracao& i : ilustracoes) {
-        const bool existe = std::any_of(lidos.begin(), lidos.end(),
-                                        [&i](const auto& documento) { return documento.second.contains(i.topico); });
-        EXPECT_TRUE(existe) << i.topico;
-        EXPECT_TRUE(i.figura == nullptr || acha(i.figura)) << i.topico;
-        const bool animado =
-            std::any_of(std::begin(series), std::end(series), [&i](const Serie& s) { return s.acao == i.acao; });
-        EXPECT_EQ(animado, i.acao != 0) << i.topico;
-    }
-    for (const Serie& s : series)
-        for (const int numero : s.quadros.numeros) {
-            const std::string algarismos = std::to_string(100 + numero).substr(1);
-            EXPECT_TRUE(acha(s.quadros.antes + algarismos + s.quadros.depois)) << s.quadros.antes << algarismos;
-        }
 }
 
 // Todos os números que uma frase fixa traz no texto.

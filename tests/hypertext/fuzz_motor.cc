@@ -10,22 +10,16 @@
 namespace verdalia {
 namespace {
 
-std::filesystem::path pasta_nova() {
-    std::string modelo = (std::filesystem::temp_directory_path() / "verdalia-fuzz-XXXXXX").string();
-    if (mkdtemp(modelo.data()) == nullptr) std::abort();
-    define_pastas(modelo, modelo);
-    return modelo;
-}
-
 // Some com o programa, mesmo quando ele para num erro.
 struct Pasta {
-    const std::filesystem::path raiz = pasta_nova();
-    ~Pasta() {
-        std::error_code erro;
-        std::filesystem::remove_all(raiz, erro);
+    std::string raiz = (std::filesystem::temp_directory_path() / "verdalia-fuzz-XXXXXX").string();
+    Pasta() {
+        if (mkdtemp(raiz.data()) == nullptr) std::abort();
+        define_pastas(raiz, raiz);
     }
+    ~Pasta() { std::filesystem::remove_all(raiz); }
     void escreve(const char* nome, std::string_view bytes) const {
-        std::ofstream(raiz / nome, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        std::ofstream(raiz + nome, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     }
 };
 
@@ -59,12 +53,12 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* dados, std::size_t ta
     std::string_view bytes(reinterpret_cast<const char*>(dados), tamanho);
     if (bytes.size() < 4) return 0;
     if (bytes[0] % 2 == 0) {
-        pasta.escreve("doc.Txt", bytes.substr(1));
+        pasta.escreve("/doc.Txt", bytes.substr(1));
         compila_texto("\\doc.Txt");
     } else {
         const std::size_t corte = static_cast<std::size_t>(dados[1]) * 256 + dados[2];
-        pasta.escreve("doc.IDX", bytes.substr(3).substr(0, corte));
-        pasta.escreve("doc.HTF", bytes.substr(std::min(3 + corte, bytes.size())));
+        pasta.escreve("/doc.IDX", bytes.substr(3).substr(0, corte));
+        pasta.escreve("/doc.HTF", bytes.substr(std::min(3 + corte, bytes.size())));
     }
     abre_hipertexto("\\doc.XXX");
     le_tudo();

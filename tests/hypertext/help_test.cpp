@@ -49,8 +49,8 @@ TEST_F(Ajuda, DeCadaTelaCadaPalavraAbreOSeuDocumentoEVolta) {
         {TelaId::controle_da_sementeira, "lbl_atividades", "Atividades da Sementeira"},
         {TelaId::controle_da_sementeira, "lbl_verduras", "Verduras de Muda"},
         {TelaId::age, "Label1", "A agenda", 1},
-        {TelaId::age, "Label1", "A agenda", 9},
         {TelaId::INTRONEW, "interroga", "A horta orgânica"},
+        {TelaId::conf, "interroga", "O programa Verdalia"},
     };
     prepara_banco();
     primeira_carga = false;
@@ -59,39 +59,24 @@ TEST_F(Ajuda, DeCadaTelaCadaPalavraAbreOSeuDocumentoEVolta) {
         const std::string tela = entra_em<Tela>(p.de).nome;
         roteiro.clica(p.controle, p.indice).espera_ms(2000).esta_em("help").confere([&p] {
             EXPECT_EQ(topico(), p.topico);
-            // O centro do jogo fica por baixo; as telas de trabalho saem antes.
-            EXPECT_EQ(carregada(p.de), p.de == TelaId::INTRONEW);
+            // O centro do jogo e as opções ficam por baixo; as telas de trabalho saem antes.
+            EXPECT_EQ(carregada(p.de), p.de == TelaId::INTRONEW || p.de == TelaId::conf);
         });
-        roteiro.clica("theLabel1").esta_em(tela.c_str()).confere([] {
-            EXPECT_FALSE(carregada(TelaId::help));
-            EXPECT_FALSE(arquivos_abertos);
-        });
+        roteiro.clica("theLabel1").esta_em(tela.c_str());
         laco();
-    }
-    for (const auto& [documento, origem, tela] :
-         {std::tuple{"PGM", "PGM", "conf"}, {"Nada", "", "controle_da_sementeira"}}) {
-        abre(documento, origem);
-        EXPECT_EQ(topico(), origem == std::string() ? "" : "O programa Verdalia"); // o que não há não abre nada
-        roteiro.clica("theLabel1").esta_em(tela);
-        laco();
+        EXPECT_FALSE(carregada(TelaId::help) || arquivos_abertos);
     }
 }
 
 TEST_F(Ajuda, OMouseSegueUmaLigacaoEAIlustracaoSeAnima) {
     auto& h = abre("Atividades");
-    EXPECT_EQ(a_vista(h), "texto"); // o tópico de abertura não se ilustra
     clica_ligacao(h, "O Transplante").confere([&] {
         EXPECT_EQ(topico(), "O Transplante");
         EXPECT_EQ(a_vista(h), "texto+figura");
         EXPECT_EQ(nome(h.imagespicturebox.figura), "tra04.bmp");
-        EXPECT_DOUBLE_EQ(h.imagespicturebox.topo, 80);
-        EXPECT_NEAR(h.imagespicturebox.esquerda + h.imagespicturebox.largura / 2, 1600 * twip / 2, 0.01);
         EXPECT_EQ(h.TextPictureBox.ponteiro, ponteiro_normal);
     });
-    roteiro.clica("imagespicturebox").espera_ms(150).confere([&] {
-        EXPECT_EQ(nome(h.imagespicturebox.figura), "tra04.bmp");
-        EXPECT_EQ(anim_quadros, 78);
-    });
+    roteiro.clica("imagespicturebox").espera_ms(150).confere([] { EXPECT_EQ(anim_quadros, 78); });
     roteiro.espera_ms(100 * 77).confere([&] { EXPECT_EQ(nome(h.imagespicturebox.figura), "tra03.bmp"); });
     roteiro.espera_ms(300).confere([&] {
         EXPECT_EQ(nome(h.imagespicturebox.figura), "tra04.bmp");
@@ -102,64 +87,21 @@ TEST_F(Ajuda, OMouseSegueUmaLigacaoEAIlustracaoSeAnima) {
     h.segue_ligacao("ALFACE");
     EXPECT_EQ(nome(h.imagespicturebox.figura), "az_ALF.bmp");
     h.imagespicturebox_Click();
-    EXPECT_EQ(a_vista(h), "texto");
-    EXPECT_EQ(topico(), "ALFACE");
-    // A que é do programa, a do dia de hoje (uma quarta-feira), e nenhuma.
-    h.segue_ligacao(cp1252_de_utf8("O botão da agenda"));
-    EXPECT_EQ(h.imagespicturebox.figura->caminho, "\\agenda.bmp");
-    EXPECT_FALSE(h.imagespicturebox.figura->falta);
+    EXPECT_EQ(a_vista(h) + topico(), "textoALFACE");
+    // A do dia de hoje (uma quarta-feira), e nenhuma.
     h.segue_ligacao(cp1252_de_utf8("O botão do calendário (tempo real)"));
     EXPECT_EQ(nome(h.imagespicturebox.figura), "seman04.bmp");
     h.segue_ligacao("As Ferramentas");
     EXPECT_EQ(a_vista(h), "texto");
-}
-
-TEST_F(Ajuda, AMinhocaTomaAVezDaIlustracao) {
-    auto& h = abre("Atividades");
-    h.segue_ligacao("A Colheita Final e Parcial");
+    // A figura que uma ligação abre toma o lugar do texto, e um clique o devolve.
+    h.segue_ligacao("\\anima\\pe_tom.jpg");
+    EXPECT_EQ(a_vista(h) + (h.TextVScroll.visivel ? "barra" : ""), "+figura");
     h.imagespicturebox_Click();
-    const double de = h.pic_nhoca.esquerda;
-    roteiro.espera_ms(350).clica("pic_nhoca").espera_ms(100 * 23).confere([&] {
-        EXPECT_EQ(nome(h.imagespicturebox.figura), "cof09.bmp"); // parou no terceiro quadro, a partir do oitavo
-        EXPECT_NEAR(de - h.pic_nhoca.esquerda, 450 * twip, 0.01);
-        EXPECT_EQ(h.timer_.intervalo, 0);
-        EXPECT_EQ(h.nhoca_quadro, 0);
-    });
-    // De passeio em passeio chega ao fim da terra e se vira.
-    roteiro.confere([&] { h.pic_nhoca.esquerda = 2401 * twip; }).clica("pic_nhoca").espera_ms(100 * 23);
-    roteiro.confere([&] {
-        EXPECT_FALSE(h.nhoca_esquerda);
-        EXPECT_EQ(nome(h.pic_nhoca.figura), "nh0p.bmp");
-    });
-    laco();
-}
-
-TEST_F(Ajuda, FiguraAbertaPorUmaLigacaoFechaSeEOTextoVolta) {
-    auto& h = abre("Culturas2");
-    h.segue_ligacao("TOMATE");
-    h.TextVScroll.valor = 3;
-    h.TextVScroll_Change();
-    const auto abre_figura = [&]() -> Roteiro& {
-        return clica_ligacao(h, "\\anima\\pe_tom.jpg").confere([&h] {
-            EXPECT_EQ(a_vista(h), "+figura");
-            EXPECT_FALSE(h.TextVScroll.visivel);
-            EXPECT_NEAR(h.imagespicturebox.esquerda, (792 - 320) / 2.0, 0.01);
-            EXPECT_NEAR(h.imagespicturebox.topo, (592 - 400) / 2.0, 0.01);
-        });
-    };
-    const auto voltou = [&h] {
-        EXPECT_EQ(a_vista(h) + topico(), "textoTOMATE");
-        EXPECT_TRUE(h.TextVScroll.visivel);
-        EXPECT_EQ(primeira_linha, 3);
-    };
-    abre_figura().clica("imagespicturebox").confere(voltou);
-    abre_figura().tecla(SDLK_ESCAPE).confere(voltou);
-    laco();
+    EXPECT_EQ(a_vista(h) + topico(), "textoAs Ferramentas");
 }
 
 TEST_F(Ajuda, ArquivosTocamAbremOuSeRecusam) {
-    escreve(jogador / "x.doc", "x");
-    escreve(pasta.raiz / "fora.wav", "x");
+    for (const char* nome : {"jogador/x.doc", "fora.wav"}) escreve(pasta.raiz / nome, "x");
     escreve(jogador / "torta.bmp", "isto não é uma figura");
     std::filesystem::create_directories(jogador / "pasta.bmp");
     pastas_de_montagem = {pasta.raiz / "volumes"};
@@ -172,8 +114,8 @@ TEST_F(Ajuda, ArquivosTocamAbremOuSeRecusam) {
     roteiro.tocados.clear();
 
     const std::string falta = "Hyperlink Error|Unable to locate media file ";
-    for (const std::string alvo : {"\\anima\\nada.bmp", "\\..\\fora.wav", "\\..\\..\\fora.wav", "/etc/x.wav",
-                                   "D:\\anima\\y.wav", "\\pasta.bmp", "\\torta.bmp", ".bmp"}) {
+    for (const std::string alvo :
+         {"\\anima\\nada.bmp", "\\..\\fora.wav", "D:\\anima\\y.wav", "\\pasta.bmp", "\\torta.bmp", ".bmp"}) {
         roteiro.confere([&h, alvo] { h.segue_ligacao(alvo); }).aviso(falta + (alvo[1] == ':' ? alvo : "C:" + alvo));
         roteiro.confere([&h] { EXPECT_EQ(a_vista(h), "texto"); });
     }
@@ -181,8 +123,7 @@ TEST_F(Ajuda, ArquivosTocamAbremOuSeRecusam) {
     roteiro.aviso("Hyperlink Error|Unknown media file type C:\\x.doc").esta_em("help");
     laco();
     EXPECT_TRUE(roteiro.tocados.empty());
-    // As mídias noutra unidade: dela, e da pasta do programa, toca-se.
-    dir_media = "D:";
+    dir_media = "D:"; // as mídias noutra unidade
     h.segue_ligacao("\\anima\\y.wav");
     EXPECT_EQ(roteiro.tocados, std::vector<std::string>{"D:\\anima\\y.wav"});
 }
@@ -192,54 +133,33 @@ TEST_F(Ajuda, RolarRefazAsLigacoes) {
     for (int i = 0; i < 120; ++i) texto += "\n\nlinha " + std::to_string(i);
     auto& h = abre_texto(texto + "\n\n##baixo|Dois~\n###Dois\nx");
     const double x = meio_x(zona("Dois")), y = meio_y(zona("Dois"));
-    const int pagina = h.TextVScroll.pagina, maximo = h.TextVScroll.maximo;
-    EXPECT_GT(pagina, 20);
-    h.TextPictureBox_MouseMove(0, 0, x, y);
-    EXPECT_EQ(h.TextPictureBox.ponteiro, ponteiro_mao);
-    roteiro.teclas({SDLK_DOWN, SDLK_PAGEDOWN}).confere([&] {
-        EXPECT_EQ(primeira_linha, 1 + pagina);
+    const auto ponteiro = [&h, x, y] {
         h.TextPictureBox_MouseMove(0, 0, x, y);
-        EXPECT_EQ(h.TextPictureBox.ponteiro, ponteiro_normal);
+        return h.TextPictureBox.ponteiro;
+    };
+    EXPECT_EQ(ponteiro(), ponteiro_mao);
+    roteiro.teclas({SDLK_DOWN, SDLK_PAGEDOWN}).confere([&] {
+        EXPECT_EQ(primeira_linha, 1 + h.TextVScroll.pagina);
+        EXPECT_EQ(ponteiro(), ponteiro_normal);
     });
     roteiro.teclas({SDLK_HOME, SDLK_PAGEUP}).aponta(400, 300).roda(-1).confere([&] { EXPECT_EQ(primeira_linha, 3); });
     roteiro.tecla(SDLK_END).confere([&] {
-        EXPECT_EQ(primeira_linha, maximo);
+        EXPECT_EQ(primeira_linha, h.TextVScroll.maximo);
         ASSERT_EQ(n_zonas_tela, 1); // a última linha está à vista, inteira
         EXPECT_LE(zonas[1].base * twip, h.TextPictureBox.altura);
         h.segue_ligacao("Dois");
     });
     laco();
-    EXPECT_EQ(primeira_linha + h.TextVScroll.valor + h.TextVScroll.maximo, 0);
-    EXPECT_EQ(topico(), "Dois");
+    EXPECT_EQ(topico() + std::to_string(primeira_linha + h.TextVScroll.valor + h.TextVScroll.maximo), "Dois0");
 }
 
 TEST_F(Ajuda, OTecladoAndaPelasLigacoesNaOrdemDeLeitura) {
-    auto& h = abre_texto("###Um\n##a|A~ ##b|B~\n\n##c|C~\n\n##d|D~ e\n###C\nfim ##volta|Um~");
-    const auto em = [&h](const char* alvo) {
-        return [&h, alvo] {
-            ASSERT_NE(h.foco, nullptr);
-            EXPECT_EQ(h.foco->nome, "ligacao");
-            EXPECT_EQ(zonas[h.foco->indice].alvo, alvo);
-        };
-    };
-    for (const char* alvo : {"A", "B", "C", "D"}) roteiro.tecla(SDLK_TAB).confere(em(alvo));
-    roteiro.tecla(SDLK_TAB).confere([&] { EXPECT_EQ(h.foco, &h.theLabel1); });
-    roteiro.tecla(SDLK_TAB, true).tecla(SDLK_TAB, true).confere(em("C"));
+    auto& h = abre_texto("###Um\n##a|A~ ##b|B~\n\n##c|C~\n###C\nfim ##volta|Um~");
+    const auto em = [&h](const char* alvo) { return [&h, alvo] { EXPECT_EQ(zonas[h.foco->indice].alvo, alvo); }; };
+    for (const char* alvo : {"A", "B", "C"}) roteiro.tecla(SDLK_TAB).confere(em(alvo));
+    roteiro.tecla(SDLK_TAB).confere([&] { EXPECT_EQ(h.foco, &h.theLabel1); }).tecla(SDLK_TAB, true).confere(em("C"));
     roteiro.tecla(SDLK_RETURN).confere([] { EXPECT_EQ(topico(), "C"); });
     roteiro.tecla(SDLK_TAB).confere(em("Um")).tecla(SDLK_SPACE).confere([] { EXPECT_EQ(topico(), "Um"); });
-    laco();
-}
-
-TEST_F(Ajuda, DocumentoQueNaoSeLeAvisaEAVoltaFunciona) {
-    std::filesystem::create_directories(jogador / "help.Txt"); // uma pasta no lugar do documento
-    topico_help = "Atividades";
-    tela_origem = "horta";
-    roteiro.aviso(
-        "Atenção ...|O arquivo \"help.Txt\", com o texto da ajuda, não foi encontrado. A ajuda fica em branco; "
-        "\"Retornar\" volta ao jogo.");
-    roteiro.esta_em("help").tecla(SDLK_PAGEDOWN).clica("TextPictureBox").clica("theLabel1");
-    roteiro.esta_em("trabalhando_na_horta");
-    mostra(TelaId::help);
     laco();
 }
 

@@ -8,35 +8,11 @@
 namespace verdalia {
 namespace {
 
-struct Relatorios : Partida {
-    static std::string transplantes() {
-        monta_listas();
-        std::string texto;
-        for (const LinhaDeTrabalho& l : listas[r_tr])
-            texto += l.cultura + '|' + l.aonde + '|' + l.aonde_sem + '|' + l.densidade + "; ";
-        return texto;
-    }
-};
-
-TEST_F(Relatorios, AMudaProntaLevaAQuantidadeQueOPedidoQuer) {
-    semeia(3, cult_alface, 4);
-    semeia(12, cult_alface, 4);
-    EXPECT_EQ(transplantes(), "Alface| 1m|A 4|12 / m2; Alface| 1m|B 2|12 / m2; "); // sem pedido, para não se perder
-    seq_pedido[cult_alface] = 3;
-    sem_idade[12] = 3;
-    EXPECT_EQ(transplantes(), "Alface| 3m|A 4|12 / m2; ");
-    seq_pedido[cult_alface] = 0;
-    planta(99, cult_alface, 0);
-    EXPECT_EQ(transplantes(), "Alface||A 4|; Alface|J 10||; ");
-    EXPECT_EQ(qt_tratos("TR") * 10 + qt_sem_tratos("TR"), 11);
-}
+using Relatorios = Partida;
 
 TEST_F(Relatorios, TabelasNaoSeAcumulamEODiscoCheioAsDeixaComoEstavam) {
     prepara_banco();
-    const auto tudo = [this] {
-        return consulta(arquivo, "SELECT * FROM relat") + consulta(arquivo, "SELECT * FROM rr") +
-               consulta(arquivo, "SELECT * FROM mapa_horta");
-    };
+    const auto tudo = [this] { return consulta(arquivo, "SELECT * FROM relat; SELECT * FROM rr; SELECT * FROM mapa_horta"); };
     const auto refez = [] {
         try {
             monta_listas();
@@ -55,7 +31,9 @@ TEST_F(Relatorios, TabelasNaoSeAcumulamEODiscoCheioAsDeixaComoEstavam) {
     EXPECT_EQ(tudo(), antes);
     planta(0, cult_rabanete, 5);
     st_cod_cult[6] = cult_vago;
-    EXPECT_GT(enche_o_disco(refez, [&](bool gravou) { ASSERT_EQ(tudo() == antes, !gravou); }), 2);
+    DiscoDeTeste disco;
+    disco.codigo_falha = SQLITE_FULL;
+    EXPECT_GT(falha_em_cada_uma(disco, refez, [&](bool gravou) { ASSERT_EQ(tudo() == antes, !gravou); }), 2);
 }
 
 } // namespace

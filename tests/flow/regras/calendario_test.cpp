@@ -6,18 +6,6 @@ namespace verdalia {
 
 using Semanas = Partida;
 
-TEST_F(Semanas, UmaPorDomingo) {
-    EXPECT_EQ(semanas_ate(dia(2026, 3, 9), dia(2026, 3, 1)), 0); // relógio atrasado
-    EXPECT_EQ(semanas_ate(dia(2026, 3, 8), dia(2026, 3, 14)), 0);
-    // Contando os domingos um a um, por cima de viradas de ano e de mudanças de hora.
-    const Dia desde = dia(2018, 2, 14);
-    int domingos = 0;
-    for (Dia d = desde; d < dia(2020, 3, 1); d += std::chrono::days{1}) {
-        if (dia_da_semana(d) == 1) ++domingos;
-        ASSERT_EQ(semanas_ate(desde, d), domingos) << texto_iso(d);
-    }
-}
-
 TEST_F(Semanas, ACulturaCumpreOCicloInteiro) {
     for (std::int16_t c = 1; c <= n_culturas; ++c) {
         planta(c, c, 0);

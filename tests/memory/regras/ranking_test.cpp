@@ -3,7 +3,6 @@
 #include "memory/regras/baralho.h"
 #include "memory/regras/ranking.h"
 
-#include <map>
 #include <random>
 
 namespace verdalia {
@@ -28,24 +27,18 @@ struct Ranking : Partida {
 };
 
 TEST_F(Ranking, CadaUmTemCincoLugaresSoEntraQuemVenceEOIgualFicaDepois) {
-    EXPECT_TRUE(bate_tempo("59:59"));
-    EXPECT_EQ(pos_tempo, 0);
+    EXPECT_TRUE(bate_tempo("59:59") && pos_tempo == 0);
     tempos({"1:05", "1:01", "1:04", "1:02"});
-    EXPECT_TRUE(bate_tempo("9:00"));
-    EXPECT_EQ(pos_tempo, 5);
+    EXPECT_TRUE(bate_tempo("9:00") && pos_tempo == 5);
     tempos({"1:03"});
-    EXPECT_FALSE(bate_tempo("1:05"));
-    EXPECT_EQ(pos_tempo, sem_lugar);
-    EXPECT_TRUE(bate_tempo("1:02"));
-    EXPECT_EQ(pos_tempo, 3);
-    EXPECT_TRUE(bate_cliques("999")); // um ranking não enche o outro
-    EXPECT_EQ(pos_cliques, 0);
+    EXPECT_TRUE(!bate_tempo("1:05") && pos_tempo == sem_lugar);
+    EXPECT_TRUE(bate_tempo("1:02") && pos_tempo == 3);
+    EXPECT_TRUE(bate_cliques("999") && pos_cliques == 0); // um ranking não enche o outro
     nome_jogador = "O'Ç \"x\"); DROP TABLE gm;--"; // um nome como outro qualquer
     grava_tempo("1:02");
     EXPECT_EQ(no_disco(), "1|01:01|2\n1|01:02|4\n1|01:02|" + nome_jogador + "\n1|01:03|5\n1|01:04|3\n");
     for (const char* r : {"18", "100", "42", "9", "42", "41"}) grava_cliques(r);
-    EXPECT_TRUE(bate_cliques("17"));
-    EXPECT_EQ(pos_cliques, 2);
+    EXPECT_TRUE(bate_cliques("17") && pos_cliques == 2);
     EXPECT_FALSE(bate_cliques("42"));
     EXPECT_EQ(Data1.linhas.back().valor, "00042"); // os 100 saíram
     Data1.linhas.clear();
@@ -60,28 +53,9 @@ TEST_F(Ranking, TemposLongosELinhasEstranhasNaoAtrapalham) {
     consulta(gm, "INSERT INTO gm (peq_gra, tipo, valor, nome) VALUES ('F','2','00050','a'), ('P','1','00:01','b'), "
                  "('F','1',' 02:00','c'), ('F','1',null,'d'), ('F','1','01:00','e')");
     Data1.Refresh();
-    EXPECT_TRUE(bate_tempo("1:30"));
-    EXPECT_EQ(pos_tempo, 3); // depois da linha sem valor e de 01:00; a de outro tamanho não conta
+    EXPECT_TRUE(bate_tempo("1:30") && pos_tempo == 3); // depois da linha sem valor e de 01:00
     zera_ranking();
     EXPECT_EQ(no_disco(), "1|00:01|b\n");
-}
-
-TEST_F(Ranking, ArquivoPresoNaoMudaNadaEOEstragadoEPostoDeLado) {
-    tempos({"1:00"});
-    {
-        const BancoPreso outro(gm);
-        EXPECT_THROW(grava_tempo("0:50"), ErroBanco);
-        EXPECT_THROW(prepara_ranking(), ErroBanco);
-    }
-    EXPECT_EQ(Data1.linhas.size(), 1U);
-    EXPECT_EQ(no_disco(), "1|01:00|1\n");
-
-    escreve(gm, "isto não é um banco");
-    prepara_ranking();
-    ASSERT_EQ(avisos_do_banco.size(), 1U);
-    EXPECT_NE(avisos_do_banco[0].find("gm 2026-03-04.mdb"), std::string::npos);
-    EXPECT_EQ(conteudo(jogador / "gm 2026-03-04.mdb"), "isto não é um banco");
-    EXPECT_EQ(no_disco(), "");
 }
 
 // Cada lugar recebe cada figura tantas vezes quanto as outras. Com 2000 baralhos, o desvio padrão de uma casa é 14.
@@ -89,21 +63,14 @@ TEST(Baralho, TemDezoitoParesETodaCasaRecebeTodaFigura) {
     acaso = [semente = std::mt19937(7)]() mutable { return static_cast<std::uint32_t>(semente()); };
     constexpr int vezes = 2000;
     int recebeu[n_cartas][n_pares + 1] = {};
-    int vizinhas = 0;
     for (int v = 0; v < vezes; ++v) {
-        const Baralho cartas = baralha();
-        std::map<int, int> quantas;
-        for (int i = 0; i < n_cartas; ++i) {
-            ++quantas[cartas[i]];
-            ++recebeu[i][cartas[i]];
-            if (i > 0 && cartas[i] == cartas[i - 1]) ++vizinhas;
-        }
-        ASSERT_EQ(quantas.size(), std::size_t{n_pares});
-        for (const auto& [carta, n] : quantas) ASSERT_EQ(n, 2) << carta;
+        Baralho cartas = baralha();
+        for (int i = 0; i < n_cartas; ++i) ++recebeu[i][cartas[i]];
+        std::sort(cartas.begin(), cartas.end());
+        for (int i = 0; i < n_cartas; ++i) ASSERT_EQ(cartas[i], i / 2 + 1);
     }
     for (const auto& casa : recebeu)
         for (int f = 1; f <= n_pares; ++f) EXPECT_NEAR(casa[f], 2.0 * vezes / n_cartas, 55);
-    EXPECT_NEAR(vizinhas, vezes, 150); // em média, um par de vizinhas iguais por baralho
     acaso = acaso_do_sistema;
     EXPECT_NE(baralha(), baralha());
 }

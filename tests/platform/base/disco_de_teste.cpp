@@ -76,14 +76,9 @@ int abre(sqlite3_vfs*, const char* nome, sqlite3_file* f, int modo, int* modo_da
     return codigo;
 }
 
-int apaga(sqlite3_vfs*, const char* nome, int descarrega_a_pasta) {
+template <auto Metodo, typename... A> int ou_falha(sqlite3_vfs*, A... a) {
     const int codigo = sorte(false);
-    return codigo != SQLITE_OK ? codigo : sistema->xDelete(sistema, nome, descarrega_a_pasta);
-}
-
-int acessa(sqlite3_vfs*, const char* nome, int modo, int* pode) {
-    const int codigo = sorte(false);
-    return codigo != SQLITE_OK ? codigo : sistema->xAccess(sistema, nome, modo, pode);
+    return codigo != SQLITE_OK ? codigo : (sistema->*Metodo)(sistema, a...);
 }
 
 } // namespace
@@ -94,8 +89,8 @@ DiscoDeTeste::DiscoDeTeste() {
     intermediario.szOsFile += static_cast<int>(sizeof(sqlite3_file));
     intermediario.zName = "disco_de_teste";
     intermediario.xOpen = abre;
-    intermediario.xDelete = apaga;
-    intermediario.xAccess = acessa;
+    intermediario.xDelete = ou_falha<&sqlite3_vfs::xDelete>;
+    intermediario.xAccess = ou_falha<&sqlite3_vfs::xAccess>;
     sqlite3_vfs_register(&intermediario, 1);
     disco = this;
 }

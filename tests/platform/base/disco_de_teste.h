@@ -7,9 +7,6 @@ namespace verdalia {
 struct DiscoDeTeste {
     DiscoDeTeste();
     ~DiscoDeTeste();
-    DiscoDeTeste(const DiscoDeTeste&) = delete;
-    DiscoDeTeste& operator=(const DiscoDeTeste&) = delete;
-
     int falha_em = -1;         // a partir desta escrita (0 é a primeira)...
     int codigo_falha = 0;      // ...todas dão este código do SQLite
     bool toda_chamada = false; // conta e falha tudo o que se pede ao sistema, e não só as escritas
@@ -32,13 +29,6 @@ template <class Grava, class Confere> int falha_em_cada_uma(DiscoDeTeste& disco,
         confere(gravou);
         if (!falhou) return qual;
     }
-}
-
-// O mesmo com o disco cheio a partir de cada escrita.
-template <class Grava, class Confere> int enche_o_disco(Grava grava, Confere confere) {
-    DiscoDeTeste disco;
-    disco.codigo_falha = 13; // SQLITE_FULL
-    return falha_em_cada_uma(disco, grava, confere);
 }
 
 } // namespace verdalia

@@ -14,17 +14,6 @@ namespace fs = std::filesystem;
 
 constexpr Dia quarta = dia(2026, 3, 4); // da semana 10
 
-// O que outro programa escreve.
-std::string saida(const std::string& comando) {
-    std::string texto;
-    FILE* cano = popen(comando.c_str(), "r");
-    if (cano == nullptr) return texto;
-    char parte[4096];
-    while (const std::size_t lidos = std::fread(parte, 1, sizeof parte, cano)) texto.append(parte, lidos);
-    pclose(cano);
-    return texto;
-}
-
 // Uma pasta no lugar do PATH, com os programas que o teste puser nela.
 struct Impressora : PartidaNaTela {
     Impressora() {
@@ -36,7 +25,6 @@ struct Impressora : PartidaNaTela {
         setenv("PATH", path.c_str(), 1);
         espera_os_filhos();
     }
-
     static void espera_os_filhos() {
         while (waitpid(-1, nullptr, 0) > 0) {
         }
@@ -52,14 +40,19 @@ struct Impressora : PartidaNaTela {
         prepara_relat();
         return relatorio.imprime(nome_banco, quarta);
     }
-    fs::path arquivo(const std::string& guarda) const { return jogador / "relatorios" / (guarda + " 2026-10.pdf"); }
-    std::string pdf() const { return conteudo(arquivo("semana")); }
-    std::string texto_do_pdf(const char* nome = "semana") const {
-        return saida("PATH=" + path + " pdftotext -raw '" + arquivo(nome).string() + "' -");
+    std::string pdf() const { return conteudo(arquivo); }
+    // O que um programa de PDF diz do que ficou guardado.
+    std::string do_pdf(const char* comando, const char* resto = "") const {
+        const std::unique_ptr<FILE, int (*)(FILE*)> cano(
+            popen(("PATH=" + path + " " + comando + " '" + arquivo.string() + "' " + resto).c_str(), "r"), pclose);
+        std::string texto(1 << 20, ' ');
+        texto.resize(std::fread(texto.data(), 1, texto.size(), cano.get()));
+        return texto;
     }
+    std::string texto_do_pdf() const { return do_pdf("pdftotext -raw", "-"); }
 
+    const fs::path arquivo = jogador / "relatorios" / "semana 2026-10.pdf";
     const Relatorio relat{"\\relatb.rpt", "semana"};
-    const Relatorio regrot{"\\rrr.rpt", "rotacao"};
     const std::string path = std::getenv("PATH");
     const fs::path programas = pasta.raiz / "programas";
 };
@@ -68,12 +61,8 @@ int quantas(const std::string& texto, const char* padrao) {
     return static_cast<int>(casa(texto, padrao).size());
 }
 
-// ---- As folhas
-
 TEST_F(Impressora, SemanaSemTrabalhoCabeNumaFolhaQueFicaGuardadaEVemDoDisco) {
-    const Impresso i = imprime(relat);
-    EXPECT_EQ(i.onde, Impresso::so_guardado);
-    EXPECT_NE(i.frase.find("Não há impressora"), std::string::npos) << i.frase;
+    EXPECT_NE(imprime(relat).frase.find("Não há impressora"), std::string::npos);
     planta(0, cult_alface, 6);
     monta_listas();
     relat.imprime(nome_banco, quarta); // o que se imprime é o que as tabelas do banco têm
@@ -81,7 +70,6 @@ TEST_F(Impressora, SemanaSemTrabalhoCabeNumaFolhaQueFicaGuardadaEVemDoDisco) {
     for (const char* parte : {"Agenda da horta – semana 10\nDe domingo, 1º de março, a sábado, 7 de março de 2026\n",
                               "não há nada a fazer", "MAPA DA HORTA\n1 2 3 4 5 6 7 8 9 10\nA\nB\n", "Página 1 de 1"})
         EXPECT_NE(texto.find(parte), texto.npos) << parte << " em\n" << texto;
-    EXPECT_EQ(texto.find("HORTA\nPlantio"), texto.npos);
 }
 
 TEST_F(Impressora, SemanaComumTrazOTrabalhoNaOrdemEOMapa) {
@@ -110,7 +98,7 @@ TEST_F(Impressora, SemanaComumTrazOTrabalhoNaOrdemEOMapa) {
         << texto;
     EXPECT_NE(texto.find("Alf COP\nidade 6\nfaltam 2\nB\n"), texto.npos) << texto;
     EXPECT_NE(texto.find("J\nAlf COF\nidade 7\nfaltam 1\n"), texto.npos) << texto;
-    const std::string letras = saida("PATH=" + path + " pdffonts '" + arquivo("semana").string() + "'");
+    const std::string letras = do_pdf("pdffonts");
     EXPECT_EQ(quantas(letras, "TrueType +WinAnsi +yes"), quantas(letras, "\n") - 2) << letras; // duas linhas de título
 }
 
@@ -119,8 +107,6 @@ TEST_F(Impressora, CemColheitasSePartemEntreLinhas) {
     for (int i = 0; i < n_leiras; ++i) semeia(i, cult_berinjela, 4);
     imprime(relat);
     const std::string texto = texto_do_pdf();
-    for (int i = 0; i < n_canteiros; ++i)
-        EXPECT_NE(texto.find('\n' + nome_canteiro(i) + " Cheiro Verde\n"), texto.npos) << i;
     EXPECT_EQ(quantas(texto, "\n[A-J] [0-9]+ "), n_canteiros + n_leiras);
     // Em cada folha: o título, a seção, o grupo em cada coluna, o número.
     EXPECT_EQ(quantas(texto, "Agenda da horta – semana 10\nDe domingo"), 3);
@@ -129,33 +115,15 @@ TEST_F(Impressora, CemColheitasSePartemEntreLinhas) {
     EXPECT_EQ(quantas(texto, "Página [123] de 3\n\f"), 3);
 }
 
-TEST_F(Impressora, ARotacaoTrazOsVagosERepeteOCabecalho) {
-    st_cod_cult.fill(cult_vago);
-    st_cod_cult[50] = cult_nenhuma; // fora do jogo
-    st_last_i_cu.fill(cult_cheiro_verde);
-    st_last_i_cu[12] = cult_vago;
-    st_last_last_i_cu[99] = cult_espinafre;
-    imprime(regrot);
-    const std::string texto = texto_do_pdf("rotacao");
-    EXPECT_EQ(quantas(texto, "\n[A-J] [0-9]+ Cheiro Verde APIÁCEAS/LILIÁCEAS Livre Livre"), 97);
-    EXPECT_EQ(quantas(texto, "\nB 3 Livre Livre Livre Livre\n"), 1);
-    EXPECT_EQ(quantas(texto, "\nJ 10 Cheiro Verde APIÁCEAS/LILIÁCEAS Espinafre QUENOPODIÁCEAS\n"), 1);
-    EXPECT_EQ(quantas(texto, "\nCanteiro Última verdura Família Antes dela Família\n"), 3); // as folhas da tabela
-}
-
-// ---- O modelo
-
-TEST_F(Impressora, EscolaMudaOModeloAindaQueApertado) {
+TEST_F(Impressora, EscolaMudaOModelo) {
     for (int i = 0; i < n_canteiros; ++i) planta(i, cult_alface, i == 0 ? 2 : 0);
     escreve(jogador / "relatb.rpt", "\xEF\xBB\xBFTítulo: Horta da Escola Cecília (semana {semana})\r\n\r\n"
                                     "LISTA: relat\r\n coluna: cultura | 180 \r\n");
     imprime(relat);
     EXPECT_TRUE(texto_do_pdf().starts_with("Horta da Escola Cecília (semana 10)\nAlface\n"));
-    escreve(jogador / "relatb.rpt", "título: " + std::string(3000, 'x') +
-                                        "\nlista: relat\ncoluna: cultura | 4\nmapa: mapa_horta\ncoluna: ordem | 180\n"
-                                        "célula: cult\nnota: " +
-                                        std::string(5000, 'y'));
-    EXPECT_EQ(imprime(relat).onde, Impresso::so_guardado);
+    escreve(jogador / "relatb.rpt", "título: " + std::string(3000, 'x') + "\nmapa: mapa_horta\ncoluna: ordem | 180\n" +
+                                        "célula: cult\nnota: " + std::string(5000, 'y'));
+    EXPECT_EQ(imprime(relat).onde, Impresso::so_guardado); // ainda que apertado
     EXPECT_EQ(quantas(texto_do_pdf(), "Alface"), 100);
 }
 
@@ -163,32 +131,24 @@ TEST_F(Impressora, EnganoNoModeloDizOndeEsta) {
     const std::pair<const char*, const char*> casos[] = {
         {"", "linha 1: o relatório não tem nenhuma"},
         {"título", "linha 1: faltam os dois-pontos"},
-        {"# nada\ntítulo:  ", "linha 2: falta alguma coisa"},
         {"titulão: a", "linha 1: a palavra \"titulão\" não é conhecida aqui"},
         {"tabela: rr\nseção: mod", "linha 2: a palavra \"seção\""},
-        {"tabela: rr\n\nlista: relat\ncoluna: trato|9", "linha 1: falta ao menos uma linha \"coluna:\""},
         {"mapa: mapa_horta\ncoluna: ordem|9", "linha 1: falta ao menos uma linha \"célula:\""},
         {"tabela: rr\ncoluna: mod", "linha 2: uma coluna é"},
-        {"tabela: rr\ncoluna: mod | -9", "linha 2: a largura"},
         {"tabela: rr\ncoluna: mod | 99999999999999999999", "linha 2: a largura"},
         {"tabela: rr\ncoluna: mod | 90\ncoluna: cult | 91", "linha 3: as colunas somam"},
         {"tabela: rr\ncoluna: modulo | 90", "linha 2: a tabela \"rr\" não tem o campo \"modulo\""},
-        {"mapa: mapa_horta\ncoluna: ordem|9\ncélula: cultura", "linha 3: a tabela \"mapa_horta\" não tem"},
         {"tabela: r\"r\ncoluna: mod | 90", "linha 1: o banco não tem a tabela"},
     };
     for (const auto& [modelo, engano] : casos) {
         escreve(jogador / "relatb.rpt", modelo);
-        const Impresso i = imprime(relat);
-        EXPECT_EQ(i.onde, Impresso::em_lugar_nenhum) << modelo;
-        EXPECT_NE(i.frase.find(std::string("\"relatb.rpt\" tem um engano na ") + engano), std::string::npos) << i.frase;
+        const std::string frase = imprime(relat).frase;
+        EXPECT_NE(frase.find(std::string("\"relatb.rpt\" tem um engano na ") + engano), std::string::npos) << frase;
     }
     escreve(jogador / "relatb.rpt", std::string(70000, '#'));
     EXPECT_NE(imprime(relat).frase.find("\"relatb.rpt\" é grande demais"), std::string::npos);
     EXPECT_NE(imprime({"\\nenhum.rpt", "a"}).frase.find("Falta o arquivo \"nenhum.rpt\""), std::string::npos);
-    EXPECT_EQ(pdf(), "");
 }
-
-// ---- A impressora
 
 TEST_F(Impressora, AImpressoraAceitaRecusaOuNaoResponde) {
     const fs::path impresso = pasta.raiz / "impresso", visto = pasta.raiz / "visto";
@@ -211,8 +171,7 @@ TEST_F(Impressora, AImpressoraAceitaRecusaOuNaoResponde) {
         const std::int64_t comeco = relogio_de_teste.ms;
         const int pinturas = roteiro.pinturas;
         const Impresso i = imprime(relat);
-        EXPECT_EQ(i.onde, caso.onde) << i.frase;
-        EXPECT_NE(i.frase.find(caso.frase), std::string::npos) << i.frase;
+        EXPECT_TRUE(i.onde == caso.onde && i.frase.find(caso.frase) != std::string::npos) << i.frase;
         const auto antes = std::chrono::steady_clock::now();
         espera_os_filhos();
         EXPECT_LT(std::chrono::steady_clock::now() - antes, std::chrono::seconds{10}); // nenhum ficou a dormir
@@ -224,20 +183,6 @@ TEST_F(Impressora, AImpressoraAceitaRecusaOuNaoResponde) {
         }
     }
     EXPECT_EQ(conteudo(impresso), pdf());
-}
-
-TEST_F(Impressora, PastaQueNaoSeGravaNaoPerdeOAnterior) {
-    const auto recusa = [this](const char* frase) {
-        const Impresso i = imprime(relat);
-        EXPECT_EQ(i.onde, Impresso::em_lugar_nenhum);
-        EXPECT_NE(i.frase.find(frase), std::string::npos) << i.frase;
-    };
-    fs::create_directories(jogador / "relatorios" / "semana 2026-10.pdf" / "a"); // uma pasta no lugar do arquivo
-    recusa("\"semana 2026-10.pdf\" não pôde ser gravado");
-    EXPECT_EQ(std::distance(fs::directory_iterator(jogador / "relatorios"), fs::directory_iterator()), 1);
-    fs::remove_all(jogador / "relatorios");
-    escreve(jogador / "relatorios", "um arquivo no lugar da pasta");
-    recusa("não pôde ser criada");
 }
 
 } // namespace
