@@ -47,14 +47,11 @@ struct Roteiro : Hospedeiro {
     Roteiro& solta(double x, double y, int botao) {
         return passo([=, this] { agora({mouse(Evento::solta, {x, y}, botao)}); });
     }
-    // Leva um controle, ou o que estiver num ponto, até outro ponto em pixels lógicos da janela, em dois movimentos.
+    // Leva um controle até um ponto em pixels lógicos da janela, em dois movimentos.
     Roteiro& arrasta(const char* nome, int indice, double x, double y) {
         return passo([=, this] {
             if (Controle* c = acha_controle(nome, indice)) arrasta_agora(meio(*c), {x, y});
         });
-    }
-    Roteiro& arrasta_ponto(double x1, double y1, double x2, double y2) {
-        return passo([=, this] { arrasta_agora({x1, y1}, {x2, y2}); });
     }
     Roteiro& roda(int passos) {
         return passo([=, this] { agora({Evento{.tipo = Evento::roda, .botao = passos}}); });
@@ -108,17 +105,15 @@ struct Roteiro : Hospedeiro {
     bool feito() const { return fim_previsto || passos.empty(); }
 
     bool proximo(Evento& e) override {
-        while (true) {
-            if (!eventos.empty()) {
-                e = eventos.front();
-                eventos.pop_front();
-                return true;
-            }
+        while (eventos.empty()) {
             if (tempo.ms < acorda_em || passos.empty()) return false;
-            auto vez = std::move(passos.front());
+            const auto vez = std::move(passos.front());
             passos.pop_front();
             vez();
         }
+        e = eventos.front();
+        eventos.pop_front();
+        return true;
     }
     bool espera(std::int64_t ms) override {
         ++esperas;

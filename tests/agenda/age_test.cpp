@@ -60,7 +60,7 @@ TEST_F(Agenda, ListaCompridaRolaComARodaEComOTeclado) {
     // O polegar, a página e a ponta, com o mouse.
     const Retangulo r = barra.lugar();
     const double x = a.origem_x() + r.x + r.largura / 2, y = a.origem_y() + r.y;
-    roteiro.arrasta_ponto(x, y + r.altura * 0.7, x, 0).confere([&] { EXPECT_EQ(barra.valor, 0); });
+    roteiro.aperta(x, y + r.altura * 0.7, 1).aponta(x, 0).solta(x, 0, 1).confere([&] { EXPECT_EQ(barra.valor, 0); });
     roteiro.clica_em(x, y + r.altura - 30).confere([&] { EXPECT_EQ(barra.valor, 10); }).tecla(SDLK_END);
     roteiro.aponta(660, 200).roda(3).confere([&] { EXPECT_EQ(barra.valor, 10); }).clica("previsao");
     laco();
@@ -130,8 +130,9 @@ TEST_F(Agenda, PerguntaAntesDeImprimirEDizOndeFicou) {
     const auto existe = [this](const char* nome) { return std::filesystem::exists(jogador / "relatorios" / nome); };
     roteiro.clica("pic_imp").espera_ms(850).pergunta("Impressão|Deseja imprimir o relatório da semana 10 ?", false);
     roteiro.esta_em("age").confere([&] { EXPECT_FALSE(existe("")); });
-    roteiro.clica("pic_imp").espera_ms(850).clica("opções", 0).esta_em("ok").confere(
-        [] { EXPECT_EQ(casa(msg_texto, "Não há impressora.*Rotação: ").size(), 1U) << msg_texto; });
+    roteiro.clica("pic_imp").espera_ms(850).clica("opções", 0).esta_em("ok").confere([] {
+        EXPECT_EQ(casa(msg_texto, "Não há impressora.*Rotação: ").size(), 1U) << msg_texto;
+    });
     roteiro.clica("opções").esta_em("age");
     laco();
     setenv("PATH", caminho.c_str(), 1);

@@ -115,7 +115,7 @@ TEST_F(Banco, LembrancaEstranhaNaoCustaOCanteiroEOQueSePerderiaFicaCopiado) {
     executa("INSERT INTO st VALUES (5,1,3,-1,0,9); INSERT INTO st VALUES (6,2,1,0,22,'x')");
     const std::string como_estava = conteudo(arquivo);
     le_canteiros();
-    EXPECT_EQ(horta().substr(0, 150).find(",3,-1,-1,9;Chicória,2,1,0,-1,-1;") != std::string::npos, true) << horta();
+    EXPECT_NE(horta().find("Alface,1,3,-1,-1,9;Chicória,2,1,0,-1,-1;"), std::string::npos) << horta();
     ASSERT_EQ(avisos_do_banco.size(), 1U);
     EXPECT_NE(avisos_do_banco[0].find("hortas00 2026-03-04.mdb"), std::string::npos) << avisos_do_banco[0];
     EXPECT_EQ(quantos_arquivos(), 1); // a cópia espera pela gravação
@@ -139,7 +139,6 @@ TEST_F(Banco, ArquivoRuimEPostoDeLado) {
     } casos[] = {
         {"", ""},
         {"não é um banco", ""},
-        {bom.substr(0, 300), ""},
         {bom.substr(0, bom.size() - 4096), ""},
         {remexido, ""},
         {so_leitura, ""},
@@ -163,8 +162,7 @@ TEST_F(Banco, ArquivoRuimEPostoDeLado) {
         ASSERT_EQ(avisos_do_banco.size(), 1U);
         const std::string guardado =
             "hortas00 2026-03-04" + (vez == 1 ? "" : " (" + std::to_string(vez) + ")") + ".mdb";
-        for (const std::string& parte : {std::string(caso.motivo), "\"" + guardado + "\""})
-            EXPECT_NE(avisos_do_banco[0].find(parte), std::string::npos) << avisos_do_banco[0];
+        EXPECT_EQ(casa(avisos_do_banco[0], (caso.motivo + std::string(".*\"hortas00")).c_str()).size(), 1U);
         EXPECT_EQ(conteudo(jogador / guardado), antes);
         EXPECT_FALSE(le_canteiros());
     }

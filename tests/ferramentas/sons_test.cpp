@@ -72,10 +72,6 @@ std::map<std::string, std::vector<std::string>> le_tabela(const fs::path& tabela
     return linhas;
 }
 
-fs::path clipe(const std::string& sotaque, const std::string& nome) {
-    return programa / "audio" / sotaque / (nome + ".wav");
-}
-
 TEST(Sons, OQueOProgramaTocaExisteEmTodosOsSotaques) {
     std::set<std::string> pedidos;
     const std::regex nome_de_som("\"(?:\\\\\\\\)?([\\w-]+\\.wav)\"");
@@ -89,11 +85,6 @@ TEST(Sons, OQueOProgramaTocaExisteEmTodosOsSotaques) {
     for (const std::string& nome : pedidos)
         for (const char* sotaque : sotaques)
             EXPECT_TRUE(fs::exists(programa / "audio" / sotaque / nome) || fs::exists(programa / nome)) << nome;
-    for (const char* sotaque : sotaques) {
-        const auto falas = le_tabela(projeto / "audio/falas" / (std::string(sotaque) + ".tsv"));
-        EXPECT_EQ(falas.size(), 80U) << sotaque;
-        for (const auto& [nome, campos] : falas) EXPECT_TRUE(fs::exists(clipe(sotaque, nome))) << sotaque << nome;
-    }
 }
 
 TEST(Sons, CadaFalaTemOSeuTamanhoEOVolumeDeTodas) {
@@ -101,16 +92,16 @@ TEST(Sons, CadaFalaTemOSeuTamanhoEOVolumeDeTodas) {
         std::set<Amostras> ouvidas;
         for (const auto& [nome, campos] : le_tabela(projeto / "audio/falas" / (std::string(sotaque) + ".tsv"))) {
             SCOPED_TRACE(std::string(sotaque) + "/" + nome + ": " + campos.back());
-            const Amostras som = le_wav(clipe(sotaque, nome));
+            const Amostras som = le_wav(programa / "audio" / sotaque / (nome + ".wav"));
             // O pregão seguinte vem em 2,5 s e cortaria o anterior.
             const bool eh_pregao = nome.find("-vz") != std::string::npos;
-            EXPECT_LT(segundos(som), eh_pregao ? 2.5 : 4);
-            EXPECT_GT(segundos(som), 0.4);
+            EXPECT_TRUE(segundos(som) > 0.4 && segundos(som) < (eh_pregao ? 2.5 : 4));
             EXPECT_LT(pico(som), -1);
             EXPECT_NEAR(volume(som), -19.5, 2);
             for (const double ponta : {som.front(), som.back()}) EXPECT_LT(em_db(std::abs(ponta)), -60); // sem estalo
             EXPECT_TRUE(ouvidas.insert(som).second) << "o mesmo som que outra fala";
         }
+        EXPECT_EQ(ouvidas.size(), 80U);
     }
 }
 
@@ -119,8 +110,7 @@ TEST(Sons, ATrilhaDuraAApresentacaoESomeNoFimEOsEfeitosSaoCurtos) {
                              "htfimi", "agfimi", "seimi", "fefimi"}) {
         SCOPED_TRACE(nome);
         const Amostras som = le_wav(programa / (std::string(nome) + ".wav"));
-        EXPECT_NEAR(segundos(som), 12, 0.1);
-        EXPECT_LT(pico(som), -1);
+        EXPECT_TRUE(std::abs(segundos(som) - 12) < 0.1 && pico(som) < -1);
         EXPECT_NEAR(volume(som), -22, 2);
         EXPECT_LT(pico(Amostras(som.end() - 2205, som.end())), -30);
     }

@@ -76,9 +76,7 @@ TEST_F(Descuido, OMouseLargaOQueOTecladoPegouOndeEstaESoOBotaoQueArrastaOSolta) 
     abre_horta();
     pega_o_quiabo_com_o_teclado().solta(220, 226, 1).confere([] { EXPECT_EQ(st_cod_cult[10], cult_quiabo); });
     roteiro.aperta(256, 58, 1).aponta(300, 300).solta(300, 300, 2).solta(304, 394, 1);
-    pega_o_quiabo_com_o_teclado().teclas({SDLK_DOWN, SDLK_RIGHT, SDLK_RIGHT, SDLK_RETURN}); // e o teclado sozinho planta
     laco();
-    EXPECT_EQ(std::count(st_cod_cult.begin(), st_cod_cult.end(), cult_quiabo), 3);
     EXPECT_EQ(std::count(st_cod_cult.begin(), st_cod_cult.end(), cult_cenoura), 1);
     EXPECT_EQ(st_cod_cult[52], cult_cenoura);
 }
@@ -136,13 +134,60 @@ TEST_F(Descuido, OndeSePerdeAlgoEnterNaoConfirma) {
     roteiro.arrasta("c_alf", -1, 262, 226).esta_em("form_ok_nao").confere([] {
         auto& d = carrega_como<form_ok_nao>(TelaId::form_ok_nao);
         EXPECT_EQ(nome(d.ilustracao(0).figura) + nome(d.ilustracao(1).figura), "az_alf.bmpaz_alf.bmp");
-        // O canteiro de que se fala continua à vista.
-        EXPECT_GT(d.origem_y() - 40, 248);
+        EXPECT_GT(d.origem_y() - 40, 248); // o canteiro de que se fala continua à vista
     });
     roteiro.tecla(SDLK_RETURN).esta_em("trabalhando_na_horta");
     laco();
     EXPECT_EQ(st_cod_cult[0], cult_alface);
     EXPECT_EQ(st_cod_cult[11], cult_nenhuma);
+}
+
+// ---- O sistema manda acabar já: nada se pergunta, e o que se fez não se perde.
+
+struct Encerra : PartidaNaTela {
+    Encerra() {
+        prepara_banco();
+        planta(0, cult_alface, 3);
+    }
+    static void abre(TelaId tela) {
+        primeira_carga = false;
+        auto_abastecido = auto_abastecimento();
+        mostra(tela);
+        laco();
+    }
+    static std::int16_t idade_gravada() {
+        le_canteiros();
+        return st_cod_cult[0] == cult_alface ? st_idade[0] : cult_nenhuma;
+    }
+};
+
+TEST_F(Encerra, NaPerguntaDeUmaPrevisaoGravaOEstadoVerdadeiro) {
+    roteiro.clica("previsao").espera_ms(50).confere([] { EXPECT_EQ(st_idade[0], 4); });
+    roteiro.arrasta("cant", 0, 660, 300).esta_em("form_ok_nao").encerra().acabou();
+    abre(TelaId::trabalhando_na_horta);
+    EXPECT_FALSE(terminou_com_falha());
+    EXPECT_EQ(idade_gravada(), 3);
+}
+
+TEST_F(Encerra, AntesDaPrimeiraCargaOuQuandoSeDisseQueNaoNadaSeGrava) {
+    grava_semana(hoje());
+    esvazia();
+    roteiro.esta_em("Conf_cd").encerra();
+    joga();
+    EXPECT_EQ(idade_gravada(), 3);
+    recomeca_laco();
+    st_idade[0] = 5;
+    seq_pedido[cult_cenoura] = 1;
+    roteiro.fecha_janela().teclas({SDLK_s, SDLK_n}).esta_em("ok_help").encerra().acabou();
+    abre(TelaId::INTRONEW);
+    EXPECT_EQ(idade_gravada(), 3);
+}
+
+TEST_F(Encerra, OQueNaoSePodeGravarEFalha) {
+    const BancoPreso preso(arquivo);
+    roteiro.encerra().acabou();
+    abre(TelaId::INTRONEW);
+    EXPECT_TRUE(terminou_com_falha());
 }
 
 } // namespace

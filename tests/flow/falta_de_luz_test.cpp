@@ -100,8 +100,7 @@ TEST_F(FaltaDeLuz, FicaSempreUmEstadoInteiroENenhumaSemanaPassaDuasVezes) {
         const int estado = achado == antes ? 0 : achado == passada ? 1 : 2;
         ASSERT_TRUE(estado < 2 || achado == salva);
         ++vistos[estado];
-        const std::string impresso = relatorio();
-        ASSERT_TRUE(impresso == sem_relatorio || impresso == com_relatorio) << impresso;
+        ASSERT_TRUE(relatorio() == sem_relatorio || relatorio() == com_relatorio) << relatorio();
         roteiro.clica("Command1");
         if (estado == 0) roteiro.quadro("Nova Semana");
         roteiro.esta_em("INTRONEW");

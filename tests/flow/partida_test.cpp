@@ -142,7 +142,8 @@ TEST_F(Centro, MeiaNoiteDeDomingoComOJogoAbertoContaUmaVezSo) {
     consulta(arquivo, "INSERT INTO st VALUES (5,1,99,0,-1,-1)"); // o que não faz sentido é dito antes da semana nova
     const auto vira = [this] { relogio_de_teste.momento = dia(2026, 3, 8) + std::chrono::minutes{1}; };
     std::optional<BancoPreso> preso;
-    for (const bool primeira : {true, false}) { // a meia-noite antes de pôr a semana em dia, sem poder gravar, ou depois
+    for (const bool primeira :
+         {true, false}) { // a meia-noite antes de pôr a semana em dia, sem poder gravar, ou depois
         recomeca_laco();
         relogio_de_teste.momento = dia(2026, 3, 7) + std::chrono::hours{23};
         entra();

@@ -26,10 +26,7 @@ TEST_F(Horta, LegendaDoPedidoSeEsvaziaPlantandoEVemOParabens) {
     auto& h = abre();
     EXPECT_EQ(falta(h, cult_cenoura) + "|" + falta(h, cult_alface), "2|");
     EXPECT_NE(nome(h.controle("c_alf")->figura), "az_alf.bmp");
-    planta_com_mouse("c_cen", 0).confere([&] {
-        EXPECT_EQ(falta(h, cult_cenoura), "1");
-        EXPECT_EQ(st_nome[0] + std::to_string(st_idade[0]), "Cenoura0");
-    });
+    planta_com_mouse("c_cen", 0).confere([&] { EXPECT_EQ(falta(h, cult_cenoura) + st_nome[0], "1Cenoura"); });
     planta_com_mouse("c_cen", 99).quadro("Parabéns");
     planta_com_mouse("c_ber", 50).esta_em("trabalhando_na_horta"); // ninguém pediu, e planta-se
     roteiro.arrasta("cant", 99, 660, 300).tecla(SDLK_s).confere([&] { EXPECT_EQ(falta(h, cult_cenoura), "1"); });
@@ -144,11 +141,9 @@ TEST_F(Horta, TratoChamaMarcaDesmarcaPiscaEApaga) {
     marcas("___[]").clica("txt_label", 3).espera_ms(2000).quadro("Parabéns");
     marcas("____");
     laco();
-    EXPECT_EQ(st_check[3], -1);
     // De volta na mesma semana: coloridos, mas apagados.
     auto& de_novo = abre();
-    EXPECT_FALSE(de_novo.Command2(7).ativo);
-    EXPECT_EQ(de_novo.Command2(7).cor_fundo, (Cor{128, 64, 64}));
+    EXPECT_TRUE(!de_novo.Command2(7).ativo && de_novo.Command2(7).cor_fundo == (Cor{128, 64, 64}));
 }
 
 TEST_F(Horta, PrevisaoVaiEVoltaComCanteirosQueAcabamEQueSoExistiramNela) {

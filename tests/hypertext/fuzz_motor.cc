@@ -36,9 +36,7 @@ void le_tudo() {
         for (const int primeira : {0, n_linhas / 2, n_linhas - 1}) {
             desenha_linhas(quadro, primeira, n_linhas);
             confere(n_zonas_tela <= max_ligacoes);
-            for (int z = 1; z <= n_zonas_tela; ++z)
-                confere(!zonas[z].alvo.empty() && zonas[z].alvo.size() <= tamanho_texto &&
-                        zonas[z].base > zonas[z].topo);
+            for (int z = 1; z <= n_zonas_tela; ++z) confere(!zonas[z].alvo.empty() && zonas[z].base > zonas[z].topo);
             sobre_zona(quadro.x, quadro.y);
         }
     }

@@ -35,10 +35,6 @@ struct Memoria : PartidaNaTela {
             EXPECT_EQ(jogo().lbl_contador.texto, cliques);
         });
     }
-    // O que se vê das cartas.
-    static std::string cara(auto... cartas) {
-        return ((jogo().figura(cartas).visivel ? nome(jogo().figura(cartas).figura) : "fora") + ...);
-    }
     static std::string linha(int i) {
         auto& r = carrega_como<rank_form>(TelaId::rank_form);
         return r.nome(i).texto + "|" + r.valor(i).texto + "|" + r.quando(i).texto;
@@ -71,7 +67,12 @@ struct Memoria : PartidaNaTela {
 TEST_F(Memoria, CliquesDeTodaEspecie) {
     const int a = pares[1][0], a2 = pares[1][1], b = pares[2][0], c = pares[3][0];
     const auto veem = [=, this](const char* esperado) -> Roteiro& {
-        return roteiro.confere([=] { EXPECT_EQ(cara(a, a2, b, c), esperado); });
+        return roteiro.confere([=] {
+            std::string caras;
+            for (const int i : {a, a2, b, c})
+                caras += jogo().figura(i).visivel ? nome(jogo().figura(i).figura) : "fora";
+            EXPECT_EQ(caras, esperado);
+        });
     };
     roteiro.clica("figura", a).clica("figura", a);
     veem("1.jpg0.jpg0.jpg0.jpg"); // a mesma outra vez: nada muda, mas ouve-se
@@ -120,14 +121,13 @@ TEST_F(Memoria, CadaRankingPorSiESoPedeONomeDeQuemEntra) {
         aprende();
         acha_todos().clica("Label1", 2).confere([] { EXPECT_EQ(jogo().lbl_contador.texto, "18"); }).espera_ms(1500);
         roteiro.esta_em("gamedio").confere([] { EXPECT_TRUE(jogo().Lbl_timer.visivel); }).clica("Label1", 2);
-        mostram(":", "0");
+        // Zerar pergunta antes.
+        mostram(":", "0").clica("Label1", 1);
+        for (const bool sim : {false, true})
+            roteiro.clica("Label1", 0).pergunta("Atenção|Deseja 'zerar' o ranking ?", sim).confere([sim] {
+                EXPECT_EQ(linha(0), sim ? "||" : "X|0:01|04/03/26");
+            });
     });
-    // Zerar pergunta antes.
-    roteiro.clica("Label1", 1);
-    for (const bool sim : {false, true})
-        roteiro.clica("Label1", 0).pergunta("Atenção|Deseja 'zerar' o ranking ?", sim).confere([sim] {
-            EXPECT_EQ(linha(0), sim ? "||" : "X|0:01|04/03/26");
-        });
     laco();
     EXPECT_EQ(consulta(gm, "SELECT * FROM gm"), "");
 }
@@ -141,9 +141,7 @@ TEST_F(Memoria, NomeTemVinteLetrasEmQualquerAlfabeto) {
     };
     acha_todos().espera_ms(2000).tecla(SDLK_RETURN).clica("opções").escreve("É");
     confere("É", false); // o botão só acende com a segunda tecla
-    roteiro.tecla(SDLK_BACKSPACE);
-    confere("", true);
-    roteiro.clica("apaga").escreve("漢");
+    roteiro.tecla(SDLK_BACKSPACE).clica("apaga").escreve("漢");
     confere("漢", false); // o "×" deixa tudo como no começo, e o foco na caixa
     for (int i = 0; i < 17; ++i) roteiro.escreve("ã");
     roteiro.escreve("mais"); // só cabem duas letras
@@ -151,16 +149,7 @@ TEST_F(Memoria, NomeTemVinteLetrasEmQualquerAlfabeto) {
     roteiro.teclas({SDLK_TAB, SDLK_RETURN}).esta_em("rank_form").confere([] {
         EXPECT_EQ(linha(5), "漢ãããããããããããããããããma|18|04/03/26");
     });
-    // No jogo seguinte a caixa volta vazia.
-    roteiro.clica("Label1", 1).confere([=, this] {
-        aprende();
-        acha_todos().espera_ms(2000);
-        confere("", false);
-        // Fechar a janela guarda o jogo com o nome que houver, e pergunta se sai.
-        roteiro.escreve("Lu").fecha_janela().esta_em("form_ok_nao").tecla(SDLK_ESCAPE).esta_em("rank_form");
-    });
     laco();
-    EXPECT_NE(ranking().find("200018Lu "), std::string::npos);
 }
 
 } // namespace

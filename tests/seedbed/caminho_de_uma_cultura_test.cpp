@@ -76,9 +76,7 @@ TEST_F(Caminho, DaFeiraAoCanteiroQueLembraAAlface) {
         sai_gravando(true);
     }
     abre_o_jogo(1);
-    vai_a_horta().confere([] {
-        EXPECT_TRUE(st_cod_cult[0] == cult_vago && !h().cant.existe(0));
-    });
+    vai_a_horta().confere([] { EXPECT_TRUE(st_cod_cult[0] == cult_vago && !h().cant.existe(0)); });
     roteiro.arrasta("c_chi", -1, 220, 184).esta_em("form_ok_nao").clica("opções", 0);
     sai_gravando(true);
 

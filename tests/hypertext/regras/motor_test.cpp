@@ -52,29 +52,6 @@ TEST_F(Hipertexto, OsPedacosSeEncadeiamParaTras) {
     EXPECT_EQ(texto_do_topico("A") + texto_do_topico("B") + texto_do_topico("C"), curto + com_branco + longo);
 }
 
-TEST_F(Hipertexto, TopicosDemaisFicamDeFora) {
-    std::string fonte;
-    for (int i = 1; i <= 120; ++i) fonte += "###T" + std::to_string(i) + "\ntexto " + std::to_string(i) + "\n";
-    compila(fonte);
-    EXPECT_EQ(n_topicos, 99);
-    EXPECT_EQ(texto_do_topico("T99") + texto_do_topico("T100"), "texto 99");
-    // Um índice estragado também não passa do fim da tabela.
-    escreve(jogador / "doc.IDX", idx() + registro("demais", 1) + "um pedaço de registro");
-    abre_hipertexto("\\doc.XXX");
-    EXPECT_EQ(n_topicos, 99);
-}
-
-TEST_F(Hipertexto, ALigacaoSeSepara) {
-    std::string_view rotulo, alvo;
-    EXPECT_TRUE(le_ligacao("####a b|\\anima\\x.bmp~", rotulo, alvo));
-    EXPECT_EQ(rotulo, "a b");
-    EXPECT_EQ(alvo, "\\anima\\x.bmp");
-    EXPECT_TRUE(le_ligacao("##a|" + std::string(300, 'x') + "~", rotulo, alvo));
-    EXPECT_EQ(alvo.size(), tamanho_texto);
-    for (const char* torta : {"##a~", "##a|b", "##|b~", "##a|~", "##a \r\n b|c~", "##a|b ##c|d~", "####~", ""})
-        EXPECT_FALSE(le_ligacao(torta, rotulo, alvo)) << torta;
-}
-
 TEST_F(Hipertexto, AsLinhasQuebramNaLargura) {
     // Cabem 48 letras depois da margem de 200, e o branco do fim da palavra conta.
     EXPECT_EQ(quebra("123456789 123456789 123456789 123456789 1234567 abc"), 4);
@@ -109,38 +86,6 @@ TEST_F(Hipertexto, OTituloSoSeImprimeNoComeco) {
     quadro.alto = 40;
     desenha_linhas(quadro, 1, n_linhas);
     EXPECT_EQ(quadro.impressos.size(), 4U);
-}
-
-TEST_F(Hipertexto, AsZonasTemBeirasQueNaoContam) {
-    quebra("##ab|Alvo~. ##cd|Outro~");
-    desenha_linhas(quadro, 2, n_linhas); // de 200 a 500 e de 600 a 800, de 0 a 180
-    EXPECT_EQ(zona_em(201, 1) + zona_em(499, 179) + zona_em(700, 90), "AlvoAlvoOutro");
-    for (const auto& [x, y] : {std::pair{200, 90}, {500, 90}, {300, 0}, {300, 180}, {550, 90}})
-        EXPECT_FALSE(sobre_zona(x, y)) << x << ',' << y;
-    desenha_linhas(quadro, 3, n_linhas); // rolou para fora da vista
-    EXPECT_EQ(zona_em(300, 90), "");
-}
-
-TEST_F(Hipertexto, LinhasELigacoesDemaisFicamDeFora) {
-    std::string texto;
-    for (int i = 1; i <= 700; ++i) texto += "linha " + std::to_string(i) + "\n\n";
-    EXPECT_EQ(quebra(texto), max_linhas + 1);
-    quadro.alto = 1e9;
-    desenha_linhas(quadro, 0, n_linhas);
-    EXPECT_TRUE(quadro.impressos.back().ends_with(":250 "));
-
-    texto.clear();
-    for (int i = 1; i <= 130; ++i) texto += "##x|T" + std::to_string(i) + "~ ";
-    quebra(texto);
-    testing::internal::CaptureStderr();
-    for (int vez = 0; vez < 3; ++vez) desenha_linhas(quadro, 2, n_linhas);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), // uma vez só
-              "verdalia: ajuda: mais de 100 ligações à vista; as últimas não levam a nada\n");
-    EXPECT_EQ(zonas[n_zonas_tela].alvo, "T100");
-    // A palavra enorme não passa da escala das zonas.
-    quebra("##" + std::string(800, 'x') + "|Alvo~ a");
-    desenha_linhas(quadro, 0, n_linhas);
-    EXPECT_EQ(zonas[1].dir, 32767);
 }
 
 } // namespace
