@@ -122,22 +122,5 @@ TEST_F(Agenda, CadaTarefaFalaEDaASuaVolta) {
         }
 }
 
-TEST_F(Agenda, PerguntaAntesDeImprimirEDizOndeFicou) {
-    const std::string caminho = std::getenv("PATH");
-    setenv("PATH", "/nao/ha/nada", 1);
-    planta(1, cult_vago, 0);
-    abre();
-    const auto existe = [this](const char* nome) { return std::filesystem::exists(jogador / "relatorios" / nome); };
-    roteiro.clica("pic_imp").espera_ms(850).pergunta("Impressão|Deseja imprimir o relatório da semana 10 ?", false);
-    roteiro.esta_em("age").confere([&] { EXPECT_FALSE(existe("")); });
-    roteiro.clica("pic_imp").espera_ms(850).clica("opções", 0).esta_em("ok").confere([] {
-        EXPECT_EQ(casa(msg_texto, "Não há impressora.*Rotação: ").size(), 1U) << msg_texto;
-    });
-    roteiro.clica("opções").esta_em("age");
-    laco();
-    setenv("PATH", caminho.c_str(), 1);
-    EXPECT_TRUE(existe("semana 2026-10.pdf") && existe("rotacao 2026-10.pdf"));
-}
-
 } // namespace
 } // namespace verdalia

@@ -105,7 +105,7 @@ TEST(Sons, CadaFalaTemOSeuTamanhoEOVolumeDeTodas) {
     }
 }
 
-TEST(Sons, ATrilhaDuraAApresentacaoESomeNoFimEOsEfeitosSaoCurtos) {
+TEST(Sons, ATrilhaDuraAApresentacaoESomeNoFim) {
     for (const char* nome : {"hortafim", "agendfim", "semefim", "feirafim", "htfimc", "agfimc", "sefimc", "fefimc",
                              "htfimi", "agfimi", "seimi", "fefimi"}) {
         SCOPED_TRACE(nome);
@@ -113,16 +113,6 @@ TEST(Sons, ATrilhaDuraAApresentacaoESomeNoFimEOsEfeitosSaoCurtos) {
         EXPECT_TRUE(std::abs(segundos(som) - 12) < 0.1 && pico(som) < -1);
         EXPECT_NEAR(volume(som), -22, 2);
         EXPECT_LT(pico(Amostras(som.end() - 2205, som.end())), -30);
-    }
-    const std::map<std::string, double> maior_duracao = {{"blip", 0.15}, {"silencio", 0.15}, {"voup", 0.6},
-                                                         {"tzip", 0.4},  {"quickly", 0.3},   {"oia", 1.2}};
-    EXPECT_EQ(le_tabela(projeto / "audio/efeitos.tsv").size(), maior_duracao.size());
-    for (const auto& [nome, dura] : maior_duracao) {
-        SCOPED_TRACE(nome);
-        const Amostras som = le_wav(programa / (nome + ".wav"));
-        EXPECT_LT(segundos(som), dura);
-        EXPECT_LT(em_db(std::abs(som.back())), -50);
-        EXPECT_TRUE((pico(som) > -12) == (nome != "silencio") && pico(som) < -1) << pico(som);
     }
 }
 
