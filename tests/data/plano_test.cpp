@@ -78,6 +78,7 @@ TEST_F(Plano, ContaComoEstaCadaLugar) {
         {cult_cenoura, 2, 0, "A 1 · Cenoura · semana 3 de 14 · agora: limpar\ndepois: desbastar, daqui a 2 semanas"},
         {cult_cenoura, 2, -1, "A 1 · Cenoura · semana 3 de 14 · agora: limpar (feito)\ndepois: desbastar, daqui a 2 semanas"},
         {cult_alface, 0, 0, "A 1 · Alface · semana 1 de 8\ndepois: repor as mudas que falharam, daqui a 1 semana"},
+        {cult_alface, 1, 0, "A 1 · Alface · semana 2 de 8 · agora: repor as mudas que falharam\ndepois: limpar, daqui a 1 semana"},
         {cult_alface, 5, 0, "A 1 · Alface · semana 6 de 8\ndepois: colher uma parte, daqui a 1 semana"},
         {cult_alface, 7, 0, "A 1 · Alface · semana 8 de 8 · agora: colher tudo"},
         {cult_vago, 0, 0, "A 1 · livre\nantes: Pepino, Chicória"},

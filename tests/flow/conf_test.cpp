@@ -67,8 +67,11 @@ TEST_F(Opcoes, CadaSotaqueMudaTodasAsFalasETrilhasDepois) {
 }
 
 TEST_F(Opcoes, SoSeGuardaUnidadeComFigurasEElaEOferecidaDepois) {
-    roteiro.clica("Check1", 1).clica("Combo1").teclas({SDLK_DOWN, SDLK_RETURN}).clica("Label1").esta_em("ok");
-    roteiro.clica("opções").esta_em("conf").confere([this] {
+    const auto ha = [] { return tela_ativa()->controle("o_que_ha")->texto.substr(0, 10); };
+    roteiro.clica("Check1", 1).confere([ha] { EXPECT_EQ(ha(), "As figuras"); });
+    roteiro.clica("Combo1").teclas({SDLK_DOWN, SDLK_RETURN}).clica("Label1").esta_em("ok").clica("opções");
+    roteiro.esta_em("conf").confere([this, ha] {
+        EXPECT_EQ(ha(), "Nenhum dis");
         EXPECT_TRUE(marcada(1)); // nada mais se perde
         le_cd();
         EXPECT_EQ(unidade_cd, 0);

@@ -86,8 +86,12 @@ TEST_F(Descuido, ASerieCortadaEOTratoQueAcabaNoMeioDelaVoltamAoRepouso) {
         planta(i, cult_alface, 2);
         semeia(i, cult_alface, 2);
     }
+    musica_ligada = true;
     auto& h = abre_horta();
-    roteiro.clica("hortelino").espera_ms(450).clica("Command2", 5).espera_ms(250).confere([&] {
+    // O caminho escolhido acaba a apresentação.
+    roteiro.espera_ms(250).confere([&] { EXPECT_EQ(nome(h.Command2(6).figura_apagada), "des01.bmp"); });
+    roteiro.clica("hortelino").confere([&] { EXPECT_EQ(nome(h.Command2(6).figura_apagada), "des06bw.bmp"); });
+    roteiro.espera_ms(450).clica("Command2", 5).espera_ms(250).confere([&] {
         EXPECT_EQ(nome(h.hortelino.figura) + std::to_string(h.hortelino.ponteiro), "hort00.bmp0");
         EXPECT_NE(nome(h.Command2(5).figura), "li06.bmp");
     });

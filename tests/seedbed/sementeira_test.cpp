@@ -9,7 +9,7 @@ TEST_F(Sementeira, OLoteDoPedidoEntraComParabensEVoltaAFaltarTirado) {
     seq_pedido[cult_alface] = 5;  // um lote basta
     seq_pedido[cult_cenoura] = 3; // vai direto ao canteiro
     auto& s = abre();
-    EXPECT_EQ(faltam(s) + s.Label3(0).texto + marcas(s, 3), "01___");
+    EXPECT_EQ(faltam(s) + s.Label3(0).texto + marcas(s, 3) + s.Label1(10).texto + s.Label2(1).texto, "01___11B");
     EXPECT_EQ(destacados(s), 1);
     semeia_com_mouse("c_alf", 0).quadro("Parabéns").confere([&] {
         EXPECT_EQ(faltam(s), "");

@@ -106,11 +106,9 @@ TEST_F(Impressora, CemColheitasSePartemEntreLinhas) {
 
 TEST_F(Impressora, EnganoNoModeloDizOndeEsta) {
     const std::pair<const char*, const char*> casos[] = {
-        {"", "linha 1: o relatório não tem nenhuma"},
         {"título", "linha 1: faltam os dois-pontos"},
         {"titulão: a", "linha 1: a palavra \"titulão\" não é conhecida aqui"},
         {"mapa: mapa_horta\ncoluna: ordem|9", "linha 1: falta ao menos uma linha \"célula:\""},
-        {"tabela: rr\ncoluna: mod | 99999999999999999999", "linha 2: a largura"},
         {"tabela: rr\ncoluna: mod | 90\ncoluna: cult | 91", "linha 3: as colunas somam"},
         {"tabela: rr\ncoluna: modulo | 90", "linha 2: a tabela \"rr\" não tem o campo \"modulo\""},
         {"tabela: r\"r\ncoluna: mod | 90", "linha 1: o banco não tem a tabela"},
