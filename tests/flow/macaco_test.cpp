@@ -5,6 +5,7 @@
 #include "roteiro.h"
 
 #include <random>
+#include <tuple>
 
 namespace verdalia {
 namespace {
@@ -42,16 +43,21 @@ struct Macaco : Hospedeiro {
     int toca(const std::string&) override { return um_em(3) ? 300 : 0; }
 
     // Os canteiros e as leiras: o pedido não é da previsão, e o que nela se muda na feira fica.
-    static std::string terra() {
-        const std::string tudo = Partida::horta();
-        return tudo.substr(0, tudo.rfind(';'));
+    static auto terra() {
+        return std::tuple(st_cod_cult, st_nome, st_idade, st_check, st_last_i_cu, st_last_last_i_cu, sem_cod_cult,
+                          sem_nome, sem_idade, sem_check);
     }
-    // A terra verdadeira guarda-se enquanto não há previsão, e confere-se quando ela acaba.
+    static auto guardada() {
+        return std::tuple(bak_st_cod_cult, bak_st_nome, bak_st_idade, bak_st_check, bak_st_last_i_cu,
+                          bak_st_last_last_i_cu, bak_sem_cod_cult, bak_sem_nome, bak_sem_idade, bak_sem_check);
+    }
+    // A terra verdadeira é a que a previsão guarda ao começar, e confere-se quando ela acaba: antes dela, dois eventos
+    // que esperaram um som podem semear e prever de uma vez.
     void confere() {
         if (erro.empty()) erro = invariante_quebrado();
         if (erro.empty() && prevendo && !previsao_ligada() && terra() != verdadeira) erro = "a previsão mexeu na horta";
+        if (!prevendo && previsao_ligada()) verdadeira = guardada();
         prevendo = previsao_ligada();
-        if (!prevendo) verdadeira = terra();
         if (!erro.empty()) restam = 0;
     }
 
@@ -105,7 +111,8 @@ struct Macaco : Hospedeiro {
     std::deque<Evento> fila;
     std::int64_t dorme_ate = 0;
     bool prevendo = false;
-    std::string verdadeira, erro, ultimo;
+    decltype(terra()) verdadeira;
+    std::string erro, ultimo;
     Superficie janela;
 };
 
