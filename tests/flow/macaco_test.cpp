@@ -10,6 +10,16 @@
 namespace verdalia {
 namespace {
 
+// Os canteiros e as leiras: o pedido não é da previsão, e o que nela se muda na feira fica.
+auto terra() {
+    return std::tuple(st_cod_cult, st_nome, st_idade, st_check, st_last_i_cu, st_last_last_i_cu, sem_cod_cult, sem_nome,
+                      sem_idade, sem_check);
+}
+auto guardada() {
+    return std::tuple(bak_st_cod_cult, bak_st_nome, bak_st_idade, bak_st_check, bak_st_last_i_cu, bak_st_last_last_i_cu,
+                      bak_sem_cod_cult, bak_sem_nome, bak_sem_idade, bak_sem_check);
+}
+
 struct Macaco : Hospedeiro {
     Macaco(RelogioDeTeste& relogio_do_teste, unsigned semente, int quantos)
         : tempo(relogio_do_teste), sorte(semente), restam(quantos) {
@@ -42,15 +52,6 @@ struct Macaco : Hospedeiro {
     void troca_tela_cheia() override {}
     int toca(const std::string&) override { return um_em(3) ? 300 : 0; }
 
-    // Os canteiros e as leiras: o pedido não é da previsão, e o que nela se muda na feira fica.
-    static auto terra() {
-        return std::tuple(st_cod_cult, st_nome, st_idade, st_check, st_last_i_cu, st_last_last_i_cu, sem_cod_cult,
-                          sem_nome, sem_idade, sem_check);
-    }
-    static auto guardada() {
-        return std::tuple(bak_st_cod_cult, bak_st_nome, bak_st_idade, bak_st_check, bak_st_last_i_cu,
-                          bak_st_last_last_i_cu, bak_sem_cod_cult, bak_sem_nome, bak_sem_idade, bak_sem_check);
-    }
     // A terra verdadeira é a que a previsão guarda ao começar, e confere-se quando ela acaba: antes dela, dois eventos
     // que esperaram um som podem semear e prever de uma vez.
     void confere() {
