@@ -88,21 +88,25 @@ TEST_F(Descuido, ASerieCortadaEOTratoQueAcabaNoMeioDelaVoltamAoRepouso) {
     }
     musica_ligada = true;
     auto& h = abre_horta();
-    // O caminho escolhido acaba a apresentação.
+    // O calendário e o caminho escolhidos acabam a apresentação.
     roteiro.espera_ms(250).confere([&] { EXPECT_EQ(nome(h.Command2(6).figura_apagada), "des01.bmp"); });
-    roteiro.clica("hortelino").confere([&] { EXPECT_EQ(nome(h.Command2(6).figura_apagada), "des06bw.bmp"); });
-    roteiro.espera_ms(450).clica("Command2", 5).espera_ms(250).confere([&] {
+    roteiro.clica("tempo_real").confere([&] { EXPECT_EQ(nome(h.Command2(6).figura_apagada), "des06bw.bmp"); });
+    roteiro.clica("hortelino").espera_ms(450).clica("Command2", 5).espera_ms(250).confere([&] {
         EXPECT_EQ(nome(h.hortelino.figura) + std::to_string(h.hortelino.ponteiro), "hort00.bmp0");
         EXPECT_NE(nome(h.Command2(5).figura), "li06.bmp");
     });
     // Tirado o último canteiro por marcar, o trato acaba.
-    const auto acabou = [](auto& tela, auto& botao) { return !botao.ativo && tela.Timergame.intervalo != 0; };
+    const auto acabou = [](auto& tela, auto& botao) {
+        return !botao.ativo && tela.Timergame.intervalo != 0 &&
+               tela.Timer1.intervalo == 0; // nem recomeça a apresentação
+    };
     roteiro.clica("txt_label", 0).arrasta("cant", 1, 660, 300).tecla(SDLK_s).confere([&] {
         EXPECT_TRUE(acabou(h, h.Command2(5)));
         EXPECT_EQ(nome(h.Command2(5).figura) + nome(h.Command2(5).figura_apagada), "li06.bmpli06bw.bmp");
     });
     laco();
     auto& s = abre<controle_da_sementeira>(TelaId::controle_da_sementeira);
+    roteiro.clica("hortelino").confere([&] { EXPECT_EQ(s.Timer1.intervalo, 0); });
     roteiro.clica("Command4", 1).clica("Label4", 0).arrasta("Image3", 1, 420, 575).tecla(SDLK_s);
     roteiro.confere([&] { EXPECT_TRUE(acabou(s, s.Command4(1))); });
     laco();

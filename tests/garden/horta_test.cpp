@@ -49,6 +49,7 @@ TEST_F(Horta, QuedaNasBordasNasFrestasENosOcupados) {
     roteiro.esta_em("trabalhando_na_horta");
     laco();
     EXPECT_EQ(falas("\\cenoura.wav") * 10 + falas("\\quiabo.wav"), 12); // só o ocupado o deixa dizer de novo
+    EXPECT_EQ(std::count(roteiro.tocados.begin(), roteiro.tocados.end(), "\\blip.wav"), 6);
     for (const int i : {0, 99, 10}) EXPECT_EQ(st_cod_cult[i], cult_cenoura) << i;
     EXPECT_EQ(quantos(cult_quiabo), 0);
 }

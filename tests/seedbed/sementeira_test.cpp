@@ -17,6 +17,7 @@ TEST_F(Sementeira, OLoteDoPedidoEntraComParabensEVoltaAFaltarTirado) {
         EXPECT_EQ(leira(s, 0), "az_alf.bmp cresce0.bmp");
         EXPECT_EQ(destacados(s), 1); // o destaque fica até o fim da visita
     });
+    leva_para_fora(0).esta_em("form_ok_nao").tecla(SDLK_RETURN); // onde se perde algo, Enter não confirma
     for (const bool sim : {false, true})
         leva_para_fora(0).pergunta("Atenção|Quer 'excluir' a  muda ?", sim).confere([&, sim] {
             EXPECT_EQ(sem_cod_cult[0], sim ? cult_nenhuma : cult_alface);
