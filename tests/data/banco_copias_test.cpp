@@ -23,9 +23,9 @@ struct Copias : Partida {
                              [](auto& item) { return item.path().string().find(" semana ") != std::string::npos; });
     }
     fs::path copia(const char* domingo) const { return jogador / (std::string("hortas00 semana ") + domingo + ".mdb"); }
-    static int plantados() {
+    static auto plantados() {
         le_canteiros();
-        return static_cast<int>(std::count(st_cod_cult.begin(), st_cod_cult.end(), cult_nabo));
+        return std::count(st_cod_cult.begin(), st_cod_cult.end(), cult_nabo);
     }
     // Prepara o banco com essa resposta; devolve o que se perguntou.
     static std::string prepara(bool resposta) {

@@ -17,9 +17,7 @@ TEST(Texto, TodoByteVaiEVoltaEOQueNaoCabeViraInterrogacao) {
                                                          {"\xED\xA0\x80", "???"}, // metade de um par
                                                          {"\xF4\x90\x80\x80x", "????x"}};
     for (const auto& [utf8, esperado] : casos) EXPECT_EQ(cp1252_de_utf8(utf8), esperado) << utf8;
-}
-
-TEST(Texto, NumerosLevamUmBrancoEMaiusculasTemAcento) {
+    // Os números levam um branco, e as maiúsculas têm acento.
     EXPECT_EQ(texto_de_numero(5) + texto_de_numero(0) + texto_de_numero(-12), " 5 0-12");
     EXPECT_EQ(maiusculas("Alho Poró, ção ÷ œuvre ÿ ß 😀"), "ALHO PORÓ, ÇÃO ÷ ŒUVRE Ÿ ß 😀");
     EXPECT_EQ(maiusculas("a\xFFz"), "A\xFFZ");
