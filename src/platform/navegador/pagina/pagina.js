@@ -20,6 +20,8 @@ function baixa(nome, bytes, tipo) {
 
 // ---- o que o programa pede
 
+const sem_rede = 'Sem rede: parte das figuras e das vozes ainda não veio.';
+
 let volta = null; // quem espera por um evento
 let chegou = false;
 let em_jogo = false;
@@ -56,10 +58,10 @@ const pagina = {
   async traz(caminho) {
     try {
       await midias.traz(caminho, Module.FS);
-      peca('rede').textContent = '';
+      if (peca('rede').textContent === sem_rede) peca('rede').textContent = '';
     } catch (erro) {
       console.warn('verdalia: não veio da rede:', caminho, erro);
-      peca('rede').textContent = 'Sem rede: parte das figuras e das vozes ainda não veio.';
+      peca('rede').textContent = sem_rede;
     }
   },
 
