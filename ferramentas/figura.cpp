@@ -1,6 +1,6 @@
 // Desenha as figuras que saem de uma fonte: figura FONTE.svg e, para cada uma, LARGURA ALTURA QUADRO ESTILO.css
-// DESTINO, em pixels lógicos; o desenho sai com o dobro deles. QUADRO e ESTILO são "-" quando não se usam. Sai com 1 e
-// diz por quê quando não pôde.
+// DESTINO (.bmp, .jpg ou .png), em pixels lógicos; o desenho sai com o dobro deles. QUADRO e ESTILO são "-" quando não
+// se usam. Sai com 1 e diz por quê quando não pôde.
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <librsvg/rsvg.h>
 
@@ -123,32 +123,36 @@ std::string em_bmp(const Figura& f) {
     return b;
 }
 
-// Qualidade 90; o alfa se perde: o que é transparente vira papel.
-std::string em_jpeg(const Figura& f) {
+// PNG, ou JPEG de qualidade 90, onde o alfa se perde: o que é transparente vira papel.
+std::string comprimida(const Figura& f, bool png) {
     std::vector<guchar> cores;
-    for (const std::uint32_t ponto : f.pontos)
-        for (const int d : {16, 8, 0}) {
-            const std::uint32_t a = ponto >> 24;
+    for (const std::uint32_t ponto : f.pontos) {
+        const std::uint32_t alfa = ponto >> 24, a = png ? 255 : alfa;
+        for (const int d : {16, 8, 0})
             cores.push_back(guchar((canal(ponto, d) * a + canal(papel, d) * (255 - a) + 127) / 255));
-        }
+        if (png) cores.push_back(guchar(alfa));
+    }
     const std::unique_ptr<GdkPixbuf, decltype(&g_object_unref)> folha(
-        gdk_pixbuf_new_from_data(cores.data(), GDK_COLORSPACE_RGB, FALSE, 8, f.largura, f.altura, f.largura * 3,
-                                 nullptr, nullptr),
+        gdk_pixbuf_new_from_data(cores.data(), GDK_COLORSPACE_RGB, png, 8, f.largura, f.altura,
+                                 f.largura * (png ? 4 : 3), nullptr, nullptr),
         g_object_unref);
     gchar* bytes = nullptr;
     gsize tamanho = 0;
     GError* erro = nullptr;
-    confere(gdk_pixbuf_save_to_buffer(folha.get(), &bytes, &tamanho, "jpeg", &erro, "quality", "90", nullptr), erro);
+    confere(gdk_pixbuf_save_to_buffer(folha.get(), &bytes, &tamanho, png ? "png" : "jpeg", &erro,
+                                      png ? nullptr : "quality", "90", nullptr),
+            erro);
     const std::unique_ptr<gchar, decltype(&g_free)> dono(bytes, g_free);
     return {bytes, tamanho};
 }
 
-std::string desenha(const fs::path& fonte, int largura, int altura, int quadro, const std::string& estilo, bool jpeg) {
+std::string desenha(const fs::path& fonte, int largura, int altura, int quadro, const std::string& estilo,
+                    const fs::path& tipo) {
     std::string folha;
     if (quadro > 0) folha = folha_do_quadro(le_arquivo(fs::path(fonte).replace_extension(".quadros"), maximo), quadro);
     if (estilo != "-") folha += le_arquivo(estilo, maximo);
     Figura f = desenha_svg(fonte, folha, largura * 2, altura * 2);
-    if (jpeg) return em_jpeg(f);
+    if (tipo != ".bmp") return comprimida(f, tipo == ".png");
     espalha_cor(f);
     return em_bmp(f);
 }
@@ -172,7 +176,7 @@ int main(int quantos, char** argumentos) {
         for (char** pedido = argumentos + 2; pedido != argumentos + quantos; pedido += cada) {
             const fs::path destino = pedido[4];
             grava_arquivo(destino, desenha(argumentos[1], std::atoi(pedido[0]), std::atoi(pedido[1]),
-                                           std::atoi(pedido[2]), pedido[3], destino.extension() == ".jpg"));
+                                           std::atoi(pedido[2]), pedido[3], destino.extension()));
         }
         return 0;
     } catch (const std::exception& erro) {

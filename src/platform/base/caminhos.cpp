@@ -38,7 +38,7 @@ fs::path pasta_instalada() {
     const fs::path aqui = fs::read_symlink("/proc/self/exe", erro).parent_path();
     fs::path ao_lado = aqui / "programa";
     if (fs::is_directory(ao_lado, erro)) return ao_lado;
-    return (aqui / ".." / "share" / "verdalia").lexically_normal();
+    return (aqui / ".." / "share" / "games" / "verdalia").lexically_normal();
 }
 
 Pastas& pastas() {
