@@ -96,6 +96,7 @@ TEST_F(Banco, RegistroEstranhoFicaDeForaEORestoEntra) {
     sem_check[3] = -1;
     seq_pedido[1] = 2;
     seq_pedido[21] = 1;
+    const auto area = std::exchange(area_maxima, 2 * area_unidade[1] + area_unidade[21]); // o que cabe justo, cabe
     const std::string boa = horta() + "2026-03-04";
     for (const auto& [tabela, valores] : ruins)
         for (const std::string ruim : valores) {
@@ -108,6 +109,7 @@ TEST_F(Banco, RegistroEstranhoFicaDeForaEORestoEntra) {
             EXPECT_EQ(guardada(), boa);
             EXPECT_EQ(avisos_do_banco.size(), 1U);
         }
+    area_maxima = area;
 }
 
 TEST_F(Banco, LembrancaEstranhaNaoCustaOCanteiroEOQueSePerderiaFicaCopiado) {

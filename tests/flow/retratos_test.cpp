@@ -37,6 +37,7 @@ TEST_F(Retratos, CadaTelaECadaDialogoEOQueSeGuardou) {
             laco();
         }
     }
+    esvazia(); // sem pedido, tudo se pode plantar
     entra_em<Tela>(TelaId::trabalhando_na_horta);
     roteiro.espera_ms(300).confere([&] { retrata("aviso"); }).tecla(SDLK_RETURN);
     avisa("Abóbora", "Uma mensagem de duas frases. Esta é a segunda, que passa da linha.");

@@ -87,7 +87,12 @@ TEST_F(Saidas, CadaCaminhoMostraOsSeusQuadrosFalaEVaiAoSeuLugar) {
         EXPECT_TRUE(s.tela != agenda || s.destino != ajuda || tela_origem == "Agenda");
     };
     for (const auto& s : saidas) percorre(s, s.controle, s.indice);
-    for (int i = 0; i < 5; ++i) percorre(saidas[i], "legenda", i); // a palavra faz o mesmo que a figura
+    for (int i = 0; i < 5; ++i) { // a palavra faz o mesmo que a figura, e diz o mesmo
+        percorre(saidas[i], "legenda", i);
+        const Tela& t = entra_em<Tela>(centro);
+        EXPECT_EQ(t.controle("legenda", i)->dica, t.controle(saidas[i].controle)->dica);
+        EXPECT_EQ(t.controle("legenda", i)->ponteiro + t.controle("Label1", i)->ponteiro, 2 * ponteiro_mao);
+    }
 }
 
 } // namespace

@@ -66,6 +66,7 @@ TEST_F(Sementeira, ArrasteCortadoPorUmDialogoNaoPerdeNada) {
     laco();
     EXPECT_EQ(sem_cod_cult[1], cult_couve);
     EXPECT_EQ(std::count(sem_cod_cult.begin(), sem_cod_cult.end(), cult_tomate) + falas("\\tomate.wav"), 2);
+    EXPECT_EQ(std::count(roteiro.tocados.begin(), roteiro.tocados.end(), "\\blip.wav"), 2); // um da queda
 }
 
 TEST_F(Sementeira, SoComTratosESemeaduraFeitosVemOParabens) {
