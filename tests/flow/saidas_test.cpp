@@ -93,6 +93,10 @@ TEST_F(Saidas, CadaCaminhoMostraOsSeusQuadrosFalaEVaiAoSeuLugar) {
         EXPECT_EQ(t.controle("legenda", i)->dica, t.controle(saidas[i].controle)->dica);
         EXPECT_EQ(t.controle("legenda", i)->ponteiro + t.controle("Label1", i)->ponteiro, 2 * ponteiro_mao);
     }
+    unidade_cd = 1;
+    grava_cd();
+    entra_em<Tela>(centro);
+    EXPECT_EQ(dir_media, "D:"); // onde o jogador disse que estão as figuras
 }
 
 } // namespace
