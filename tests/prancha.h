@@ -14,14 +14,14 @@ struct Prancha {
     Prancha(const char* png, int larga, int alta) : arquivo(png), largura(larga), altura(alta) {
         if (refaz) return;
         const Superficie lida(IMG_Load(png));
-        guardada.reset(lida ? SDL_ConvertSurfaceFormat(lida.get(), SDL_PIXELFORMAT_RGBA32, 0) : nullptr);
-        EXPECT_TRUE(guardada) << png;
+        EXPECT_TRUE(lida) << png;
+        if (lida) guardados = le(*lida);
     }
     ~Prancha() {
-        const int linhas = static_cast<int>(pontos.size()) / 4 / largura;
-        EXPECT_TRUE(refaz || (guardada && guardada->h == linhas)) << "há miniaturas a mais ou a menos";
+        EXPECT_TRUE(refaz || vistos.size() == guardados.size()) << "há miniaturas a mais ou a menos";
         if (!refaz) return;
-        const Superficie nova(SDL_CreateRGBSurfaceWithFormatFrom(pontos.data(), largura, linhas, 32, 4 * largura,
+        const int linhas = static_cast<int>(vistos.size()) / 4 / largura;
+        const Superficie nova(SDL_CreateRGBSurfaceWithFormatFrom(vistos.data(), largura, linhas, 32, 4 * largura,
                                                                  SDL_PIXELFORMAT_RGBA32));
         IMG_SavePNG(nova.get(), arquivo.c_str());
     }
@@ -33,27 +33,21 @@ struct Prancha {
     };
     // Quanto a figura difere da próxima miniatura. Onde é transparente, vê-se papel.
     Diferenca compara(SDL_Surface& figura) {
-        const Superficie s(SDL_ConvertSurfaceFormat(&figura, SDL_PIXELFORMAT_RGBA32, 0));
-        std::vector<double> soma(std::size_t(largura * altura * 4));
+        const std::vector<std::uint8_t> pontos = le(figura);
         const std::array papel = {cor_papel.r, cor_papel.g, cor_papel.b};
-        for (int y = 0; y < s->h; ++y)
-            for (int x = 0; x < s->w; ++x) {
-                const auto* ponto = static_cast<const std::uint8_t*>(s->pixels) + std::ptrdiff_t{y} * s->pitch + 4 * x;
-                double* casa = &soma[std::size_t(y * altura / s->h * largura + x * largura / s->w) * 4];
-                const double alfa = ponto[3] / 255.0;
-                for (std::size_t k = 0; k < 3; ++k) casa[k] += ponto[k] * alfa + papel[k] * (1 - alfa);
-                ++casa[3];
-            }
+        std::vector<double> casas(std::size_t(largura * altura * 4)); // somas de R, G e B, e quantos pontos
+        for (std::size_t i = 0; i < pontos.size(); i += 4) {
+            const int x = static_cast<int>(i / 4) % figura.w, y = static_cast<int>(i / 4) / figura.w;
+            double* casa = &casas[std::size_t(y * altura / figura.h * largura + x * largura / figura.w) * 4];
+            const double alfa = pontos[i + 3] / 255.0;
+            for (std::size_t k = 0; k < 3; ++k) casa[k] += pontos[i + k] * alfa + papel[k] * (1 - alfa);
+            ++casa[3];
+        }
         Diferenca d;
-        for (std::size_t i = 0; i < soma.size(); ++i) {
-            const double agora = i % 4 == 3 ? 255 : soma[i] / soma[i / 4 * 4 + 3];
-            const std::size_t onde = pontos.size();
-            pontos.push_back(static_cast<std::uint8_t>(std::lround(agora)));
-            if (refaz || !guardada || onde >= std::size_t(guardada->h * largura * 4)) continue;
-            const std::size_t linha = std::size_t(largura) * 4;
-            const auto* antes = static_cast<const std::uint8_t*>(guardada->pixels) +
-                                onde / linha * std::size_t(guardada->pitch) + onde % linha;
-            const double diferenca = std::abs(agora - *antes);
+        for (std::size_t i = 0; i < casas.size(); ++i) {
+            const double agora = i % 4 == 3 ? 255 : casas[i] / casas[i / 4 * 4 + 3];
+            const double diferenca = vistos.size() < guardados.size() ? std::abs(agora - guardados[vistos.size()]) : 0;
+            vistos.push_back(static_cast<std::uint8_t>(std::lround(agora)));
             d.media += diferenca / (largura * altura * 3);
             d.maior = std::max(d.maior, diferenca);
         }
@@ -61,11 +55,17 @@ struct Prancha {
     }
 
 private:
+    static std::vector<std::uint8_t> le(SDL_Surface& s) {
+        std::vector<std::uint8_t> pontos(std::size_t(s.w * s.h * 4));
+        SDL_ConvertPixels(s.w, s.h, s.format->format, s.pixels, s.pitch, SDL_PIXELFORMAT_RGBA32, pontos.data(),
+                          s.w * 4);
+        return pontos;
+    }
+
     std::string arquivo;
     int largura, altura;
     bool refaz = std::getenv("VERDALIA_MINIATURAS") != nullptr;
-    Superficie guardada;
-    std::vector<std::uint8_t> pontos;
+    std::vector<std::uint8_t> guardados, vistos; // R, G, B e A, uma miniatura depois da outra
 };
 
 } // namespace verdalia

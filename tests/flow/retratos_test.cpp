@@ -14,12 +14,9 @@ struct Retratos : PartidaNaTela {
         planta(11, cult_tomate, 8);
         planta(99, cult_brocolis, 0);
         st_last_i_cu[5] = cult_alface;
-        for (const int i : {0, 12}) sem_cod_cult[i] = cult_alface, sem_nome[i] = nome_cult[cult_alface];
-        sem_idade[12] = 4;
+        semeia(0, cult_alface, 0);
+        semeia(12, cult_alface, 4);
         grava_canteiros();
-    }
-    static void planta(int i, std::int16_t cultura, std::int16_t idade) {
-        st_cod_cult[i] = cultura, st_nome[i] = nome_cult[cultura], st_idade[i] = idade;
     }
 
     // Uma letra a mais, um botão que não se vê ou uma linha fora do lugar mudam alguma casa de 8 por 8 pixels.
