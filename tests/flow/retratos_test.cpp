@@ -8,6 +8,7 @@ namespace {
 struct Retratos : PartidaNaTela {
     Retratos() {
         prepara_banco();
+        topico_help = tela_origem = "Orgânico";
         seq_pedido[cult_alface] = 6;
         seq_pedido[cult_cenoura] = 2;
         planta(0, cult_cenoura, 3);
