@@ -30,7 +30,7 @@ struct SemJanela : Hospedeiro {
     bool proximo(Evento&) override { return false; }
     bool espera(std::int64_t) override { return false; }
     SDL_Surface* superficie() override { return pontos.get(); }
-    void apresenta() override {}
+    void apresenta(const SDL_Rect&) override {}
     void mostra_ponteiro(int) override {}
     void troca_tela_cheia() override {}
     int toca(const std::string&) override { return 0; }

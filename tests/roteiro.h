@@ -125,7 +125,10 @@ struct Roteiro : Hospedeiro {
         return true;
     }
     SDL_Surface* superficie() override { return janela.get(); }
-    void apresenta() override { ++pinturas; }
+    void apresenta(const SDL_Rect& area) override {
+        ++pinturas;
+        mudou = area;
+    }
     void mostra_ponteiro(int) override {}
     void troca_tela_cheia() override {}
     int toca(const std::string& caminho) override {
@@ -137,6 +140,7 @@ struct Roteiro : Hospedeiro {
     int duracao_dos_sons = 0;
     std::function<int(const std::string&)> aparelho{}; // quando há, é ele que toca e diz a duração
     int pinturas = 0;
+    SDL_Rect mudou{}; // na última
     int esperas = 0;
     bool dorme = false; // o tempo passa de verdade: espera-se por outro programa
     Superficie janela;

@@ -1,5 +1,6 @@
 #include "data/banco_arquivo.h"
 
+#include "platform/base/arquivo.h"
 #include "platform/base/relogio.h"
 
 #include <algorithm>
@@ -121,6 +122,8 @@ void faz_por_inteiro(const std::string& caminho, const std::function<void(Databa
         banco.Close();
         if (antes_da_troca) antes_da_troca();
         muda_nome(novo, arquivo);
+        if (const int codigo = espera_disco(arquivo.parent_path()); codigo != 0)
+            falha_do_disco(arquivo, {codigo, std::generic_category()});
     } catch (...) {
         limpa(); // o espaço que ele tomava faz falta
         throw;

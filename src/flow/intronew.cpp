@@ -126,6 +126,7 @@ void INTRONEW::cria_controles() {
     }
     timer_.dispara = [this] { Timer__Timer(); };
     Timer1.dispara = [this] { Timer1_Timer(); };
+    Timer1.so_muda = &pic_nhoca;
 }
 
 void INTRONEW::Form_Load() {

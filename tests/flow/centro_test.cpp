@@ -51,6 +51,15 @@ TEST_F(CentroAberto, AMinhocaAndaAosPassosEDaAVoltaNasPontas) {
     roteiro.confere([&] {
         EXPECT_EQ(quadros, "0123210");
         EXPECT_DOUBLE_EQ(c.pic_nhoca.esquerda, partida - 3 * passo);
+        // Cada passo pinta só o lugar dela, e nada fica para trás.
+        EXPECT_LT(roteiro.mudou.w, largura_logica / 4);
+        const auto pontos = [&] {
+            const SDL_Surface& s = *roteiro.janela;
+            return std::string(static_cast<const char*>(s.pixels), static_cast<std::size_t>(s.pitch) * s.h);
+        };
+        const std::string aos_poucos = pontos();
+        pinta_tudo();
+        EXPECT_TRUE(aos_poucos == pontos());
         c.pic_nhoca.esquerda = 2400 / 15.0;
     });
     roteiro.espera_ms(700).confere([&] {

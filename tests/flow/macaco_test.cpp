@@ -47,7 +47,7 @@ struct Macaco : Hospedeiro {
         return restam > 0;
     }
     SDL_Surface* superficie() override { return janela.get(); }
-    void apresenta() override {}
+    void apresenta(const SDL_Rect&) override {}
     void mostra_ponteiro(int) override {}
     void troca_tela_cheia() override {}
     int toca(const std::string&) override { return um_em(3) ? 300 : 0; }

@@ -58,4 +58,13 @@ void grava_arquivo(const fs::path& arquivo, std::string_view bytes) {
     if (rename(novo.c_str(), arquivo.c_str()) != 0) falha_ao_gravar(arquivo, novo, errno);
 }
 
+int espera_disco(const fs::path& pasta) {
+    const int aberta = open(pasta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (aberta < 0) return 0; // numa pasta que não se deixa ler não há por que esperar
+    const int codigo = fsync(aberta) == 0 ? 0 : errno;
+    close(aberta);
+    // Há sistemas de arquivos que não sabem esperar por uma pasta, e não é falha.
+    return codigo == ENOSPC || codigo == EDQUOT || codigo == EIO ? codigo : 0;
+}
+
 } // namespace verdalia

@@ -14,4 +14,8 @@ std::string le_arquivo(const std::filesystem::path& arquivo, std::size_t maximo)
 // explicação, e o que havia antes fica como estava.
 void grava_arquivo(const std::filesystem::path& arquivo, std::string_view bytes);
 
+// Espera que o disco tenha os arquivos da pasta com os nomes de agora; num navegador, também o que está dentro deles.
+// Devolve 0, ou o errno (ENOSPC, EDQUOT ou EIO) do disco que falhou.
+int espera_disco(const std::filesystem::path& pasta);
+
 } // namespace verdalia

@@ -1,5 +1,6 @@
 #include "platform/base/dao.h"
 
+#include "platform/base/arquivo.h"
 #include "platform/base/caminhos.h"
 
 #include <algorithm>
@@ -21,6 +22,7 @@ struct Conexao {
     Conexao& operator=(const Conexao&) = delete;
 
     void executa(const char* sql) const;
+    void grava() const;           // termina a transação, e o disco tem tudo o que é dela
     void exige_transacao() const; // lança quando a transação em que devia estar já não existe
     [[noreturn]] void falha(int codigo) const;
 
@@ -119,6 +121,12 @@ void Conexao::exige_transacao() const {
 void Conexao::executa(const char* sql) const {
     exige_transacao();
     if (const int codigo = sqlite3_exec(banco, sql, nullptr, nullptr, nullptr); codigo != SQLITE_OK) falha(codigo);
+}
+
+void Conexao::grava() const {
+    executa("COMMIT");
+    if (const int codigo = espera_disco(caminho.parent_path()); codigo != 0)
+        falha(codigo == EIO ? SQLITE_IOERR : SQLITE_FULL);
 }
 
 // ---- Campo
@@ -457,7 +465,7 @@ void Workspace::termina(bool grava) {
     for (const auto& conexao : conexoes) {
         conexao->em_transacao = false;
         try {
-            if (grava && !erro) conexao->executa("COMMIT");
+            if (grava && !erro) conexao->grava();
         } catch (...) {
             erro = std::current_exception();
         }

@@ -12,6 +12,8 @@ void pagina_acorda(void);
 void pagina_traz(const char* caminho);
 // Espera a resposta: 1 quando esta página tem o jogo para si; 0 quando outra já o tem.
 int pagina_trava(void);
+// Põe no canvas um retângulo de pontos RGBA, linha a linha, com o canto em (x, y).
+void pagina_pinta(const void* pontos, int x, int y, int largura, int altura);
 // Oferece o arquivo ao jogador, como um que se baixa.
 void pagina_baixa(const char* caminho);
 void pagina_tela_cheia(void);

@@ -16,6 +16,10 @@ mergeInto(LibraryManager.library, {
   pagina_trava: function () {
     return Asyncify.handleSleep((volta) => Module.pagina.depois(Module.pagina.trava(), volta));
   },
+  pagina_pinta: function (pontos, x, y, largura, altura) {
+    const bytes = new Uint8ClampedArray(HEAPU8.buffer, pontos, largura * altura * 4);
+    Module.pagina.pinta(new ImageData(bytes, largura), x, y);
+  },
   pagina_baixa: function (caminho) {
     Module.pagina.baixa(UTF8ToString(caminho));
   },
@@ -23,7 +27,8 @@ mergeInto(LibraryManager.library, {
     Module.pagina.telaCheia();
   },
 
-  // O disco do jogador é o IndexedDB: quem espera pelo disco espera que tudo o que mudou esteja lá.
+  // O disco do jogador é o IndexedDB: quem espera pelo disco espera que tudo o que mudou esteja lá. O SQLite não espera
+  // (SQLITE_NO_SYNC); por ele espera, depois de cada gravação, quem o chamou.
   fd_sync: function (fd) {
     return Asyncify.handleSleep((volta) => Module.pagina.depois(Module.pagina.guarda(), volta));
   },

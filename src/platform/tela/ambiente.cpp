@@ -60,6 +60,14 @@ void arruma_janela(SDL_Window* janela) {
     }
 }
 
+SDL_Surface* superficie_da_janela(SDL_Window* janela) {
+    return SDL_GetWindowSurface(janela);
+}
+
+void mostra_pintura(SDL_Window* janela, const SDL_Rect& mudou) {
+    SDL_UpdateWindowSurfaceRects(janela, &mudou, 1);
+}
+
 void espera_evento(int ms) {
     if (ms < 0)
         SDL_WaitEvent(nullptr);

@@ -125,6 +125,7 @@ struct Temporizador {
     Tela& dona;
     int intervalo = 0;
     std::function<void()> dispara;
+    const Controle* so_muda = nullptr; // o único controle que um disparo muda; nulo: pode mudar a tela toda
 
     // Do laço: a hora do próximo disparo e o intervalo com que ela foi calculada.
     std::int64_t proximo = 0;

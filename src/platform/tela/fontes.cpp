@@ -30,9 +30,12 @@ bool tem_letras(TTF_Font* aberta) {
 
 TTF_Font* abre(const char* nome, int pixels) {
     const auto achado = acha(nome);
-    TTF_Font* aberta = achado ? TTF_OpenFont(achado->c_str(), pixels) : nullptr;
-    if (aberta != nullptr && tem_letras(aberta)) return aberta;
-    if (aberta != nullptr) TTF_CloseFont(aberta);
+    if (TTF_Font* aberta = achado ? TTF_OpenFont(achado->c_str(), pixels) : nullptr) {
+        TTF_SetFontKerning(aberta, 0);
+        TTF_SetFontHinting(aberta, TTF_HINTING_LIGHT_SUBPIXEL);
+        if (tem_letras(aberta)) return aberta;
+        TTF_CloseFont(aberta);
+    }
     static std::set<std::string> ja_ditos; // uma linha por arquivo, mesmo que se peça em cada tamanho
     if (ja_ditos.insert(nome).second) std::fprintf(stderr, "verdalia: letras que não puderam ser lidas: %s\n", nome);
     return nullptr;
@@ -72,11 +75,7 @@ TTF_Font* fonte(const Letra& letra, double escala) {
     const int pixels = std::max(4, static_cast<int>(std::lround(letra.corpo * 4 / 3 * escala)));
     const int chave = (pixels << 2) | (static_cast<int>(letra.familia) << 1) | static_cast<int>(letra.negrito);
     auto lugar = abertas.find(chave);
-    if (lugar == abertas.end()) {
-        lugar = abertas.emplace(chave, abre_a_melhor(letra, pixels)).first;
-        TTF_SetFontKerning(lugar->second, 0);
-        TTF_SetFontHinting(lugar->second, TTF_HINTING_LIGHT_SUBPIXEL);
-    }
+    if (lugar == abertas.end()) lugar = abertas.emplace(chave, abre_a_melhor(letra, pixels)).first;
     TTF_SetFontStyle(lugar->second, letra.sublinhado ? TTF_STYLE_UNDERLINE : TTF_STYLE_NORMAL);
     return lugar->second;
 }

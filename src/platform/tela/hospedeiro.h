@@ -27,7 +27,8 @@ struct Hospedeiro {
     virtual bool espera(std::int64_t ms) = 0;
     // Onde pintar; nula quando a janela não a tem agora, e então não se pinta.
     virtual SDL_Surface* superficie() = 0;
-    virtual void apresenta() = 0;
+    // Mostra o que se pintou nesse retângulo da superfície.
+    virtual void apresenta(const SDL_Rect& mudou) = 0;
     virtual void mostra_ponteiro(int numero) = 0;
     virtual void troca_tela_cheia() = 0;
     // Toca um arquivo de som, cortando o que toca; devolve a duração em ms, 0 quando não há som.

@@ -124,7 +124,7 @@ struct Janela : Hospedeiro {
         const SDL_Rect r = lugar_da_janela();
         janela.reset(SDL_CreateWindow(titulo, r.x, r.y, r.w, r.h, SDL_WINDOW_RESIZABLE));
         if (janela) arruma_janela(janela.get());
-        if (!janela || SDL_GetWindowSurface(janela.get()) == nullptr)
+        if (!janela || superficie_da_janela(janela.get()) == nullptr)
             throw falha("A janela do jogo não pôde ser aberta");
     }
 
@@ -141,7 +141,7 @@ struct Janela : Hospedeiro {
     }
 
     SDL_Surface* superficie() override {
-        SDL_Surface* s = SDL_GetWindowSurface(janela.get());
+        SDL_Surface* s = superficie_da_janela(janela.get());
         if (s == nullptr) return nullptr;
         if (s->w != largura_vista || s->h != altura_vista) esquece_tamanhos();
         largura_vista = s->w;
@@ -155,9 +155,10 @@ struct Janela : Hospedeiro {
         return intermediaria.get();
     }
 
-    void apresenta() override {
-        if (intermediaria) SDL_BlitSurface(intermediaria.get(), nullptr, SDL_GetWindowSurface(janela.get()), nullptr);
-        SDL_UpdateWindowSurface(janela.get());
+    void apresenta(const SDL_Rect& mudou) override {
+        SDL_Rect la = mudou;
+        if (intermediaria) SDL_BlitSurface(intermediaria.get(), &mudou, superficie_da_janela(janela.get()), &la);
+        mostra_pintura(janela.get(), mudou);
     }
 
     void mostra_ponteiro(int numero) override {

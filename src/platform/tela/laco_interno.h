@@ -16,7 +16,8 @@ struct EstadoDoLaco {
     std::vector<Carregada> pilha; // de baixo para cima
     bool fim = false;
     bool com_falha = false;
-    bool sujo = true;
+    bool sujo = true;      // há que pintar tudo
+    Retangulo area_suja{}; // ou só isto, em pixels lógicos da janela
     int nivel = 0;         // laços aninhados
     double x = -1, y = -1; // o mouse, em pixels lógicos da janela
     Controle* sob = nullptr;

@@ -79,7 +79,8 @@ Cor tinta_sobre(Cor fundo) {
     return contraste(cor_tinta_escura, fundo) >= contraste(cor_tinta_clara, fundo) ? cor_tinta_escura : cor_tinta_clara;
 }
 
-Pintor::Pintor(SDL_Surface* superficie) : alvo(superficie) {
+Pintor::Pintor(SDL_Surface* superficie) : alvo(superficie), area{0, 0, superficie->w, superficie->h} {
+    recorta();
     escala = std::min(alvo->w / double{largura_logica}, alvo->h / double{altura_logica});
     const int largura = static_cast<int>(std::lround(largura_logica * escala));
     const int altura = static_cast<int>(std::lround(altura_logica * escala));
@@ -192,12 +193,19 @@ void Pintor::texto_que_cabe(std::string_view texto, const Retangulo& r, Letra le
 }
 
 void Pintor::recorta(const Retangulo& r) {
-    const SDL_Rect q = na_janela(r);
+    SDL_Rect q = na_janela(r);
+    SDL_IntersectRect(&q, &area, &q);
     SDL_SetClipRect(alvo, &q);
 }
 
 void Pintor::recorta() {
-    SDL_SetClipRect(alvo, nullptr);
+    SDL_SetClipRect(alvo, &area);
+}
+
+void Pintor::limita(const Retangulo& r) {
+    const SDL_Rect q = na_janela(r);
+    SDL_IntersectRect(&area, &q, &area);
+    recorta();
 }
 
 } // namespace verdalia

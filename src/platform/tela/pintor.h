@@ -42,11 +42,14 @@ struct Pintor {
     // Limita o desenho ao retângulo; sem argumento, desfaz.
     void recorta(const Retangulo& r);
     void recorta();
+    // Só se pinta dentro deste retângulo, e nenhum recorte sai dele.
+    void limita(const Retangulo& r);
 
     double escala = 1; // pixels da janela por pixel lógico
     int folga_x = 0;   // faixa vazia à esquerda, em pixels da janela
     int folga_y = 0;
     SDL_Surface* alvo;
+    SDL_Rect area; // o que se pinta, em pixels da janela
 
     // Da janela para os pixels lógicos.
     double logico_x(int px) const { return (px - folga_x) / escala; }

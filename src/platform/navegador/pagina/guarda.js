@@ -5,18 +5,21 @@ const guarda = {
   banco: null,
   gravados: new Map(), // caminho → bytes, como estão no IndexedDB
 
-  async abre(FS) {
+  async le() {
     const pedido = indexedDB.open('verdalia', 1);
     pedido.onupgradeneeded = () => pedido.result.createObjectStore('arquivos');
     this.banco = await this.promessa(pedido);
     const loja = this.banco.transaction('arquivos').objectStore('arquivos');
     const [nomes, bytes] = await Promise.all([this.promessa(loja.getAllKeys()), this.promessa(loja.getAll())]);
+    nomes.forEach((nome, i) => this.gravados.set(nome, bytes[i]));
+  },
+
+  poeNaArvore(FS) {
     FS.mkdirTree(this.pasta);
-    nomes.forEach((nome, i) => {
+    for (const [nome, bytes] of this.gravados) {
       FS.mkdirTree(nome.slice(0, nome.lastIndexOf('/')));
-      FS.writeFile(nome, bytes[i]);
-      this.gravados.set(nome, bytes[i]);
-    });
+      FS.writeFile(nome, bytes);
+    }
   },
 
   promessa: (pedido) => new Promise((serve, falha) => {

@@ -29,10 +29,16 @@ const midias = {
   },
 
   poeNaArvore(FS) {
+    const pastas = new Map(); // nome → nó: procurá-la outra vez para cada arquivo demora
     for (const nome of this.lista.keys()) {
-      const corte = nome.lastIndexOf('/');
-      FS.mkdirTree('/programa/' + nome.slice(0, Math.max(0, corte)));
-      FS.writeFile('/programa/' + nome, '');
+      const corte = nome.lastIndexOf('/') + 1;
+      const pasta = '/programa/' + nome.slice(0, corte);
+      if (!pastas.has(pasta)) {
+        FS.mkdirTree(pasta);
+        pastas.set(pasta, FS.lookupPath(pasta).node);
+      }
+      const no = pastas.get(pasta);
+      no.node_ops.mknod(no, nome.slice(corte), 0o100644, 0);
     }
   },
 

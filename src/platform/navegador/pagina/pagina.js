@@ -31,6 +31,15 @@ function interrompeu(erro) {
   if (!erro || erro.name !== 'ExitStatus') falhou(erro); // o fim, onExit já o disse
 }
 
+// A trava é do navegador, e solta-se com a página, mesmo por acidente. Espera um pouco pela página que se recarrega.
+const trava = new Promise((responde) => {
+  if (!navigator.locks) return responde(1);
+  navigator.locks.request('verdalia', { signal: AbortSignal.timeout(1000) }, () => {
+    responde(1);
+    return new Promise(() => {});
+  }).catch(() => responde(0));
+});
+
 const pagina = {
   espera(ms, quando_voltar) {
     if (!em_jogo) comecou(); // a primeira espera vem depois da primeira pintura
@@ -53,6 +62,8 @@ const pagina = {
   // O programa segue quando a promessa se cumpre.
   depois: (promessa, quem) => promessa.then(quem).catch(interrompeu),
 
+  pinta: (pintura, x, y) => canvas.getContext('2d', { alpha: false }).putImageData(pintura, x, y),
+
   falta: (caminho) => midias.falta(caminho),
 
   async traz(caminho) {
@@ -67,14 +78,7 @@ const pagina = {
 
   guarda: () => guarda.grava(Module.FS),
 
-  // A trava é do navegador, e solta-se com a página, mesmo por acidente. Espera um pouco pela página que se recarrega.
-  trava: () => new Promise((responde) => {
-    if (!navigator.locks) return responde(1);
-    navigator.locks.request('verdalia', { signal: AbortSignal.timeout(1000) }, () => {
-      responde(1);
-      return new Promise(() => {});
-    }).catch(() => responde(0));
-  }),
+  trava: () => trava,
 
   baixa(caminho) {
     baixa(caminho.slice(caminho.lastIndexOf('/') + 1), Module.FS.readFile(caminho), 'application/pdf');
@@ -150,8 +154,9 @@ var Module = {
   pagina,
   preRun: [() => {
     Module.addRunDependency('arquivos');
-    Promise.all([lista, guarda.abre(Module.FS)]).then(() => {
+    arquivos.then(() => {
       midias.poeNaArvore(Module.FS);
+      guarda.poeNaArvore(Module.FS);
       Module.removeRunDependency('arquivos');
     }).catch(falhou);
   }],
@@ -161,8 +166,8 @@ var Module = {
   },
   onAbort: (razao) => falhou(razao),
 };
-const lista = midias.le();
-lista.catch(() => {});
+const arquivos = Promise.all([midias.le(), guarda.le()]);
+arquivos.catch(() => {}); // quem espera por eles é que o diz
 
 function falhou(razao) {
   console.error('verdalia:', razao);
