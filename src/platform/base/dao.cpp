@@ -1,11 +1,9 @@
-#include "platform/base/dao.h"
+#include "platform/base/dao_interno.h"
 
 #include "platform/base/arquivo.h"
-#include "platform/base/caminhos.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <fstream>
 #include <limits>
 #include <sqlite3.h>
 #include <utility>
@@ -13,23 +11,6 @@
 namespace verdalia {
 
 namespace fs = std::filesystem;
-
-// Uma conexão com um arquivo; fecha-se quando ninguém mais a usa.
-struct Conexao {
-    Conexao(fs::path caminho, int modo);
-    ~Conexao() { sqlite3_close_v2(banco); }
-    Conexao(const Conexao&) = delete;
-    Conexao& operator=(const Conexao&) = delete;
-
-    void executa(const char* sql) const;
-    void grava() const;           // termina a transação, e o disco tem tudo o que é dela
-    void exige_transacao() const; // lança quando a transação em que devia estar já não existe
-    [[noreturn]] void falha(int codigo) const;
-
-    fs::path caminho;
-    sqlite3* banco = nullptr;
-    bool em_transacao = false;
-};
 
 namespace {
 
@@ -62,17 +43,6 @@ std::string frase(int codigo, bool sem_cota, const fs::path& caminho) {
     }
 }
 
-// O byte 18 do cabeçalho é 1 ou 2; com outro valor, por estrago, o SQLite também só deixa ler.
-bool pede_outro_sqlite(const fs::path& caminho) {
-    std::ifstream arquivo(caminho, std::ios::binary);
-    arquivo.seekg(18);
-    return arquivo.get() > 2;
-}
-
-[[noreturn]] void engano(const std::string& qual) {
-    throw ErroBanco(0, "Engano no uso do banco: " + qual + ".");
-}
-
 std::string entre_aspas(const std::string& nome) {
     std::string saida = "\"";
     for (const char letra : nome) saida.append(letra == '"' ? 2 : 1, letra);
@@ -86,6 +56,10 @@ std::string lista(const std::vector<std::string>& nomes, const char* depois) {
 }
 
 } // namespace
+
+void engano(const std::string& qual) {
+    throw ErroBanco(0, "Engano no uso do banco: " + qual + ".");
+}
 
 bool ErroBanco::danificado() const {
     return codigo == SQLITE_CORRUPT || codigo == SQLITE_NOTADB || codigo == SQLITE_ERROR;
@@ -375,120 +349,6 @@ void Database::copia_para(Database& destino) {
     const int passo = sqlite3_backup_step(copia, -1);
     const int fim = sqlite3_backup_finish(copia);
     if (passo != SQLITE_DONE) para->falha(fim == SQLITE_OK ? passo : fim);
-}
-
-// ---- Workspace
-
-fs::path arquivo_do_banco(std::string_view caminho) {
-    try {
-        return para_gravar(caminho);
-    } catch (const std::runtime_error& erro) {
-        throw ErroBanco(SQLITE_CANTOPEN, erro.what());
-    }
-}
-
-Workspace& Motor::Workspaces(int numero) {
-    static Workspace unica;
-    if (numero != 0) engano("só existe a área de trabalho 0");
-    return unica;
-}
-
-Database Workspace::OpenDatabase(std::string_view caminho) {
-    return abre(caminho, SQLITE_OPEN_READWRITE);
-}
-
-Database Workspace::CreateDatabase(std::string_view caminho) {
-    return abre(caminho, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-}
-
-Database Workspace::abre(std::string_view caminho, int modo) {
-    const fs::path arquivo = arquivo_do_banco(caminho);
-    std::shared_ptr<Conexao> conexao = conhecidas[arquivo].lock();
-    if (!conexao) conhecidas[arquivo] = conexao = std::make_shared<Conexao>(arquivo, modo);
-    if (nivel > 0) entra(conexao);
-    return Database(conexao);
-}
-
-// Põe a conexão na transação em curso. IMMEDIATE: se outro programa está gravando, é melhor saber já.
-void Workspace::entra(const std::shared_ptr<Conexao>& conexao) {
-    if (conexao->em_transacao) return;
-    // Num arquivo que só se pode ler o SQLite começaria calado uma transação de leitura.
-    if (sqlite3_db_readonly(conexao->banco, "main") != 0)
-        conexao->falha(pede_outro_sqlite(conexao->caminho) ? SQLITE_CORRUPT : SQLITE_READONLY);
-    conexao->executa("BEGIN IMMEDIATE");
-    conexao->em_transacao = true;
-    em_transacao.push_back(conexao);
-}
-
-void Workspace::BeginTrans() {
-    if (nivel++ > 0) return;
-    try {
-        for (const auto& [arquivo, fraca] : conhecidas)
-            if (const auto conexao = fraca.lock()) entra(conexao);
-    } catch (...) {
-        termina(false);
-        throw;
-    }
-}
-
-void Workspace::CommitTrans() {
-    if (nivel == 0) engano("CommitTrans sem BeginTrans");
-    if (nivel > 1) {
-        --nivel;
-        return;
-    }
-    const bool vale = !condenada;
-    termina(vale);
-    if (!vale) engano("uma parte da transação já tinha sido desfeita");
-}
-
-void Workspace::Rollback() {
-    if (nivel == 0) engano("Rollback sem BeginTrans");
-    if (nivel > 1) {
-        --nivel;
-        condenada = true;
-        return;
-    }
-    termina(false);
-}
-
-void Workspace::Close() {
-    termina(false);
-}
-
-// Termina a transação de fora. Quando um arquivo não se deixa gravar, ele e os seguintes voltam atrás.
-void Workspace::termina(bool grava) {
-    nivel = 0;
-    condenada = false;
-    const auto conexoes = std::exchange(em_transacao, {});
-    std::exception_ptr erro;
-    for (const auto& conexao : conexoes) {
-        conexao->em_transacao = false;
-        try {
-            if (grava && !erro) conexao->grava();
-        } catch (...) {
-            erro = std::current_exception();
-        }
-        // Falhar aqui não importa: o diário fica em disco e a próxima abertura desfaz o resto.
-        if (sqlite3_get_autocommit(conexao->banco) == 0)
-            sqlite3_exec(conexao->banco, "ROLLBACK", nullptr, nullptr, nullptr);
-    }
-    if (erro) std::rethrow_exception(erro);
-}
-
-// ---- Passo
-
-Passo::~Passo() {
-    if (!aberto) return;
-    try {
-        area.Rollback();
-    } catch (const ErroBanco&) { // já desfeita por um Close
-    }
-}
-
-void Passo::confirma() {
-    aberto = false;
-    area.CommitTrans();
 }
 
 } // namespace verdalia

@@ -6,13 +6,13 @@
 
 namespace verdalia {
 
-namespace {
-
 Retangulo na_tela(const Controle& c, Retangulo r) {
     r.x += c.dona.origem_x();
     r.y += c.dona.origem_y();
     return r;
 }
+
+namespace {
 
 Arraste arraste_em(const Controle& alvo) {
     const Retangulo r = na_tela(alvo, alvo.lugar());

@@ -245,10 +245,7 @@ void trata_tecla(const Tecla& t) {
 void pinta_foco(Pintor& p) {
     const Tela* t = tela_ativa();
     if (!e.foco_visivel || e.arrastado != nullptr || t == nullptr || t->foco == nullptr || !t->foco->interage()) return;
-    Retangulo r = t->foco->lugar();
-    r.x += t->origem_x();
-    r.y += t->origem_y();
-    p.anel(r);
+    p.anel(na_tela(*t->foco, t->foco->lugar()));
 }
 
 } // namespace verdalia

@@ -57,12 +57,18 @@ void esquece_controle(const Controle* c);
 Controle* controle_em(double x, double y);
 // A tela inteira que está por baixo dos diálogos abertos, e a posição dela na pilha; -1 se não há.
 int base_da_pilha();
+// O retângulo, que está em pixels da tela de `c`, na janela.
+Retangulo na_tela(const Controle& c, Retangulo r);
 void poe_foco(Controle* c);
 // Marca a dica de `c`, que aparece daí a pouco; a que já foi marcada, ou dispensada com um clique, não volta.
 void arma_dica(const Controle* c, bool pelo_teclado);
 void apaga_dica();
 // O que o jogador fez durante um som, antes de ver o que agora está à vista, não vale; a ordem de acabar, sim.
 void esquece_o_que_espera();
+
+// pintura.cpp: há que pintar o lugar de `c`, além do que já se tinha de pintar; e pinta-se tudo o que está sujo.
+void suja(const Controle& c);
+void pinta_o_sujo();
 
 // arraste.cpp
 void comeca_arraste(Controle* c, bool pelo_teclado);

@@ -166,7 +166,8 @@ var Module = {
   },
   onAbort: (razao) => falhou(razao),
 };
-const arquivos = Promise.all([midias.le(), guarda.le()]);
+// A horta só se lê com a trava na mão: até aí outra página ainda pode gravar.
+const arquivos = Promise.all([midias.le(), trava.then(() => guarda.le())]);
 arquivos.catch(() => {}); // quem espera por eles é que o diz
 
 function falhou(razao) {
